@@ -1,0 +1,72 @@
+# The front door. Every target installs the Debian packages it needs and works through the presets
+# of CMakePresets.json; what takes more than a line lies in scripts/.
+
+JOBS ?= $(shell nproc)
+
+.DEFAULT_GOAL := help
+.PHONY: help demo build test lint format sanitize arm64 figures bench fuzz package reference ci clean
+
+help: ## show this list
+	@awk -F ':.*## ' '/^[a-z0-9]+:.*## / { printf "  make %-10s %s\n", $$1, $$2 }' Makefile
+
+build: ## build everything (build/release)
+	@scripts/install-packages build
+	@scripts/build release -j $(JOBS)
+
+demo: build ## build and run the main job on the bundled example
+	@echo
+	@echo "The input, examples/presets.json:"
+	@cat examples/presets.json
+	@echo
+	@echo "What the typed accessors answer, and each element in full, shallow and as a reference:"
+	@build/release/examples/presets examples/presets.json
+
+test: build ## build and run all tests
+	@scripts/install-packages reference
+	ctest --preset release -j $(JOBS) --output-on-failure
+	@scripts/other-platform -j $(JOBS)
+
+lint: build ## check form and likely faults of code and definitions
+	@scripts/install-packages lint
+	@scripts/lint
+
+format: ## bring the code into form
+	@scripts/install-packages lint
+	@scripts/sources | xargs clang-format -i
+
+sanitize: ## all tests under address, undefined-behaviour and thread sanitizers (QUICK=1)
+	@scripts/install-packages build sanitize
+	@scripts/sanitize $(if $(QUICK),--quick) -j $(JOBS)
+
+arm64: ## cross-build for 64-bit Arm and run the tests under emulation
+	@scripts/install-packages build arm64
+	@scripts/arm64 -j $(JOBS)
+
+figures: ## hold the figures that do not depend on the machine
+	@scripts/install-packages build figures
+	@scripts/check-figures -j $(JOBS)
+
+bench: ## measure beside the peers, as ratios
+	@scripts/install-packages build bench
+	@scripts/bench -j $(JOBS)
+
+fuzz: ## a bounded fuzz run (SECONDS_EACH=60)
+	@scripts/install-packages build fuzz
+	@scripts/fuzz $(SECONDS_EACH)
+
+package: ## Debian packages, and a consumer built against them
+	@scripts/install-packages build package
+	@scripts/package -j $(JOBS)
+	@scripts/check-reproducible -j $(JOBS)
+
+reference: ## the browsable reference (build/reference/index.html)
+	@scripts/install-packages build reference
+	@scripts/build release -j $(JOBS) --target reference
+	@ln -sfn release/reference build/reference
+	@echo "Open $(CURDIR)/build/reference/index.html"
+
+ci: ## what .ci/run runs
+	@bash .ci/run
+
+clean: ## remove all that was built
+	rm -rf build
