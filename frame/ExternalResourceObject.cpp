@@ -1,0 +1,148 @@
+#include "frame/ExternalResourceObject.h"
+
+#include "frame/internal/Reading.h"
+#include "frame/internal/VisitorTexts.h"
+#include "frame/internal/Writing.h"
+
+namespace zel::kiv::common {
+
+using zel::common::types::BufferDescriptor;
+using zel::common::types::PtrMap;
+using zel::common::types::PtrVector;
+using zel::dataformats::data::Value;
+
+ExternalResourceObject::ExternalResourceObject() : IObjectBase("externalResourceObject") {}
+
+ExternalResourceObject::~ExternalResourceObject() = default;
+
+std::unique_ptr<Value> ExternalResourceObject::serialize(SerializationType type) const
+{
+    if (type == SerializationType::Reference) {
+        return internal::makeReference(getUri());
+    }
+    internal::ObjectWriter object(type);
+    if (m_idIsSet) {
+        object.addString("id", m_id);
+    }
+    if (m_nameIsSet) {
+        object.addString("name", m_name);
+    }
+    if (m_uriIsSet) {
+        object.addString("uri", m_uri);
+    }
+    return object.take();
+}
+
+bool ExternalResourceObject::deserialize(Value const* value)
+{
+    ExternalResourceObjectDeserializer visitor(*this);
+    visitor.visit(value);
+    return true;
+}
+
+std::string const& ExternalResourceObject::getId() const
+{
+    return m_id;
+}
+
+void ExternalResourceObject::setId(std::string const& value)
+{
+    m_id = value;
+    m_idIsSet = true;
+}
+
+bool ExternalResourceObject::isIdSet() const
+{
+    return m_idIsSet;
+}
+
+std::string const& ExternalResourceObject::getName() const
+{
+    return m_name;
+}
+
+void ExternalResourceObject::setName(std::string const& value)
+{
+    m_name = value;
+    m_nameIsSet = true;
+}
+
+bool ExternalResourceObject::isNameSet() const
+{
+    return m_nameIsSet;
+}
+
+std::string const& ExternalResourceObject::getUri() const
+{
+    return m_uri;
+}
+
+void ExternalResourceObject::setUri(std::string const& value)
+{
+    m_uri = value;
+    m_uriIsSet = true;
+}
+
+bool ExternalResourceObject::isUriSet() const
+{
+    return m_uriIsSet;
+}
+
+ExternalResourceObjectDeserializer::ExternalResourceObjectDeserializer(
+    ExternalResourceObject& target)
+    : m_target(&target)
+{
+}
+
+ExternalResourceObjectDeserializer::~ExternalResourceObjectDeserializer() = default;
+
+void ExternalResourceObjectDeserializer::note(char const* text)
+{
+    m_error = true;
+    m_errorText += text;
+}
+
+void ExternalResourceObjectDeserializer::visitNull()
+{
+    note(internal::elementText::null);
+}
+
+void ExternalResourceObjectDeserializer::visitBoolean(bool /*value*/)
+{
+    note(internal::elementText::boolean);
+}
+
+void ExternalResourceObjectDeserializer::visitInteger(int /*value*/)
+{
+    note(internal::elementText::integer);
+}
+
+void ExternalResourceObjectDeserializer::visitFloat(double /*value*/)
+{
+    note(internal::elementText::floating);
+}
+
+void ExternalResourceObjectDeserializer::visitString(BufferDescriptor<char const> /*value*/)
+{
+    note(internal::elementText::string);
+}
+
+void ExternalResourceObjectDeserializer::visitBlob(BufferDescriptor<char const> /*value*/)
+{
+    note(internal::elementText::blob);
+}
+
+void ExternalResourceObjectDeserializer::visitArray(PtrVector<Value> const& /*entries*/)
+{
+    note(internal::elementText::array);
+}
+
+void ExternalResourceObjectDeserializer::visitObject(PtrMap<std::string, Value> const& map)
+{
+    internal::ObjectReader fields(map, *m_target, 4);
+    fields.readString("id", &ExternalResourceObject::setId);
+    fields.readString("name", &ExternalResourceObject::setName);
+    fields.readString("uri", &ExternalResourceObject::setUri);
+}
+
+} // namespace zel::kiv::common

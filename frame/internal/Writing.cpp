@@ -1,0 +1,91 @@
+#include "frame/internal/Writing.h"
+
+namespace zel::kiv::common::internal {
+
+using zel::dataformats::data::Array;
+using zel::dataformats::data::Boolean;
+using zel::dataformats::data::Float;
+using zel::dataformats::data::Integer;
+using zel::dataformats::data::Object;
+using zel::dataformats::data::String;
+using zel::dataformats::data::Value;
+
+std::unique_ptr<Value> makeReference(std::string const& uri)
+{
+    return std::make_unique<String>(uri);
+}
+
+ArrayWriter::ArrayWriter(SerializationType type) : m_array(std::make_unique<Array>()), m_type(type)
+{
+}
+
+void ArrayWriter::add(IObjectBase const& element)
+{
+    m_array->pushNew(element.serialize(m_type).release());
+}
+
+std::unique_ptr<Value> ArrayWriter::take()
+{
+    return std::move(m_array);
+}
+
+ObjectWriter::ObjectWriter(SerializationType type)
+    : m_object(std::make_unique<Object>()),
+      m_nestedType(type == SerializationType::Shallow ? SerializationType::Reference : type)
+{
+}
+
+void ObjectWriter::addString(char const* key, std::string const& text)
+{
+    m_object->setNew(key, new String(text));
+}
+
+void ObjectWriter::addInt(char const* key, int number)
+{
+    m_object->setNew(key, new Integer(number));
+}
+
+void ObjectWriter::addDouble(char const* key, double number)
+{
+    m_object->setNew(key, new Float(number));
+}
+
+void ObjectWriter::addBool(char const* key, bool flag)
+{
+    m_object->setNew(key, new Boolean(flag));
+}
+
+void ObjectWriter::addStringList(char const* key, std::vector<std::string> const& texts)
+{
+    auto array = std::make_unique<Array>();
+    for (std::string const& text : texts) {
+        array->pushNew(new String(text));
+    }
+    m_object->setNew(key, array.release());
+}
+
+void ObjectWriter::addIntList(char const* key, std::vector<int> const& numbers)
+{
+    auto array = std::make_unique<Array>();
+    for (int const number : numbers) {
+        array->pushNew(new Integer(number));
+    }
+    m_object->setNew(key, array.release());
+}
+
+void ObjectWriter::addElement(char const* key, IObjectBase const* element)
+{
+    m_object->setNew(key, element->serialize(m_nestedType).release());
+}
+
+void ObjectWriter::addArray(char const* key, ArrayWriter& array)
+{
+    m_object->setNew(key, array.take().release());
+}
+
+std::unique_ptr<Value> ObjectWriter::take()
+{
+    return std::move(m_object);
+}
+
+} // namespace zel::kiv::common::internal
