@@ -1,0 +1,57 @@
+#pragma once
+
+#include "generator/model/Model.h"
+
+#include <string>
+#include <vector>
+
+namespace kivgen {
+
+/// One operation of an element class that belongs to a field. Without a parameter it is const.
+struct Accessor {
+    std::string about;
+    std::string result;
+    std::string name;
+    std::string parameter; ///< its type; it is always called `value`
+    std::string body;      ///< one or more statements, not indented
+};
+
+/// All that one field contributes to the code of its element. Each part is indented as it will
+/// stand and ends with a line end; a part that a kind does not need stays empty.
+struct FieldCode {
+    std::vector<std::string> includes; ///< headers of what the field holds
+    std::vector<Accessor> accessors;
+    std::vector<std::string> members; ///< the stored value and its flags, in layout order
+    std::vector<std::string> flags; ///< the names of the flags: the field is set if one of them is
+    std::string write;              ///< puts a set field into `object`, in `serialize`
+    std::string read;               ///< reads the field from `fields`, in the visitor
+    std::string readMethod;         ///< a member function of the visitor that `read` calls
+    std::string release;            ///< frees what the field holds, in the destructor
+};
+
+/// What the kind of the field makes of it.
+FieldCode codeOf(Field const& field, Interface const& interface);
+
+/// The header that a target's class stands in, as clients include it.
+std::string headerOf(Target const& target);
+
+/// The target's class as code in the root namespace names it: `radio::Stations::StationObject`.
+std::string classOf(Target const& target, Interface const& interface);
+
+/// The member that stores a field, and the flag beside it. A key holds no underscore, so these
+/// names collide neither with each other nor with a word of the language.
+std::string memberOf(Field const& field);
+std::string flagOf(Field const& field);
+
+/// The presence accessor of every kind but polymorphic.
+Accessor presenceOf(Field const& field);
+
+/// The step of `serialize`; `word` is the kind's in the name of the frame's operation.
+std::string writeStep(Field const& field, std::string const& word);
+
+/// Adds the steps of `serialize` and of the visitor of a plain kind, which differ by names alone:
+/// `word` is the kind's in the names of the frame's operations, `accept` the setter or adder.
+void addSteps(FieldCode& code, Field const& field, std::string const& word,
+              std::string const& accept);
+
+} // namespace kivgen

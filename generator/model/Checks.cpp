@@ -1,0 +1,152 @@
+#include "generator/model/Checks.h"
+
+#include "catalogue/Suggestion.h"
+#include "generator/Naming.h"
+#include "generator/model/Forms.h"
+
+#include <algorithm>
+#include <map>
+#include <tuple>
+#include <unordered_map>
+#include <utility>
+
+namespace kivgen {
+namespace {
+
+/// Finds out what is wrong with a target.
+class TargetCheck {
+public:
+    TargetCheck(std::vector<Definition> const& definitions, std::vector<std::string> const& names);
+
+    [[nodiscard]] bool exists(std::string const& target) const;
+    [[nodiscard]] std::string whatIsWrong(std::string const& target) const;
+
+private:
+    std::vector<std::string_view> names_;
+    std::unordered_map<std::string, std::string> resourceOf_; ///< by spellings of element classes
+};
+
+TargetCheck::TargetCheck(std::vector<Definition> const& definitions,
+                         std::vector<std::string> const& names)
+    : names_{names.begin(), names.end()}
+{
+    for (Definition const& definition : definitions) {
+        Resource const& resource = definition.resource;
+        auto const name = resource.service + "::" + resource.name;
+        resourceOf_.emplace(name + "::" + resource.element, name);
+        resourceOf_.emplace(resource.service + "::" + resource.element, name);
+    }
+}
+
+bool TargetCheck::exists(std::string const& target) const
+{
+    return std::ranges::binary_search(names_, target);
+}
+
+std::string TargetCheck::whatIsWrong(std::string const& target) const
+{
+    if (auto const found = resourceOf_.find(target); found != resourceOf_.end()) {
+        return inQuotes(target) + " names an element class; a target is named by its resource, " +
+               inQuotes(found->second);
+    }
+    auto const meant = zel::kiv::catalogue::didYouMean(target, names_);
+    if (target.find("::") != std::string::npos) {
+        return "there is no resource " + inQuotes(target) + meant;
+    }
+    auto const text = inQuotes(target) + " is no target; a target is spelt service::Resource";
+    auto const named =
+        std::ranges::find_if(names_, [&](auto name) { return name.ends_with("::" + target); });
+    return named == names_.end() ? text + meant : text + "; did you mean " + inQuotes(*named) + "?";
+}
+
+/// The field that stands further down in the file.
+Field const& lowerOf(Field const& one, Field const& other)
+{
+    auto const position = [](Field const& field) {
+        return std::tie(field.place.line, field.place.column);
+    };
+    return position(one) < position(other) ? other : one;
+}
+
+void checkAccessorsOf(Resource const& resource, Interface const& interface, Faults& faults)
+{
+    // An element inherits one operation that is named as an accessor.
+    std::unordered_map<std::string, Field const*> owners{{"getServiceAndResourceString", nullptr}};
+    for (Field const& field : resource.fields) {
+        for (std::string const& name : accessorNames(field, interface)) {
+            auto const [entry, isNew] = owners.emplace(name, &field);
+            if (isNew) {
+                continue;
+            }
+            Field const* const owner = entry->second;
+            if (owner == nullptr) {
+                faults.push_back({field.place, "the key " + inQuotes(field.key) +
+                                                   " gives the accessor " + inQuotes(name) +
+                                                   ", which every element inherits"});
+            } else if (owner == &field) {
+                faults.push_back({field.place, "two targets of " + inQuotes(field.key) +
+                                                   " give the same accessor " + inQuotes(name)});
+            } else {
+                Field const& lower = lowerOf(field, *owner);
+                Field const& upper = &lower == owner ? field : *owner;
+                faults.push_back({lower.place, "the key " + inQuotes(lower.key) +
+                                                   " gives the accessor " + inQuotes(name) +
+                                                   ", which " + inQuotes(upper.key) + " has too"});
+            }
+            break; // the others of the same field say nothing new
+        }
+    }
+}
+
+} // namespace
+
+void checkTargets(std::vector<Definition> const& definitions, std::vector<std::string> const& names,
+                  Faults& faults)
+{
+    constexpr std::size_t mostSuggestions = 100; // each takes a look at every resource
+    std::size_t wrong = 0;
+    TargetCheck const check{definitions, names};
+    for (Definition const& definition : definitions) {
+        for (Use const& use : definition.uses) {
+            if (!check.exists(use.text)) {
+                ++wrong;
+                faults.push_back({use.place, wrong <= mostSuggestions
+                                                 ? check.whatIsWrong(use.text)
+                                                 : "there is no resource " + inQuotes(use.text)});
+            }
+        }
+    }
+}
+
+void checkResourceKeys(std::vector<Definition> const& definitions, Faults& faults)
+{
+    std::map<std::pair<std::string, std::string>, Definition const*> owners;
+    for (Definition const& definition : definitions) {
+        Resource const& resource = definition.resource;
+        auto const [entry, isNew] =
+            owners.emplace(std::pair{resource.service, lowered(resource.resourceKey)}, &definition);
+        if (isNew) {
+            continue;
+        }
+        // Best told where a key is given: the other may be as it must be.
+        Definition const* one = &definition;
+        Definition const* other = entry->second;
+        if (one->placeOfKey.line == 0) {
+            std::swap(one, other);
+        }
+        bool const isSame = one->resource.resourceKey == other->resource.resourceKey;
+        faults.push_back({one->placeOfKey,
+                          "the resource key " + inQuotes(one->resource.resourceKey) +
+                              (isSame ? " is that of " : " is but for its first letter that of ") +
+                              other->resource.place.file + "; uris could not tell them apart"});
+    }
+}
+
+void checkAccessors(Interface const& interface, Faults& faults)
+{
+    for (Resource const& resource : interface.resources) {
+        checkAccessorsOf(resource, interface, faults);
+    }
+}
+
+} // namespace kivgen

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "generator/model/Document.h"
+#include "generator/model/Fault.h"
+
+#include <string>
+#include <vector>
+
+namespace kivgen {
+
+/// A target as a definition spells it, for the check whether it exists.
+struct Use {
+    Place place;
+    std::string text;
+};
+
+/// What one file says.
+struct Definition {
+    Resource resource;
+    std::vector<Use> uses; ///< all targets but external ones
+    Place placeOfKey;      ///< where `resource_key` is given, or the file as a whole
+};
+
+/// Takes a definition out of the table of its file, `id`, `name` and `uri` added. Whatever is wrong
+/// in it alone is added to `faults`; the result then holds what could be understood, so that the
+/// checks across definitions can go on.
+Definition readDefinition(Node const& document, std::string const& service, std::string const& name,
+                          Place const& file, Faults& faults);
+
+} // namespace kivgen

@@ -1,0 +1,192 @@
+#include "generator/model/Document.h"
+
+#include "generator/Naming.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fstream>
+#include <system_error>
+#include <tuple>
+
+// toml++ is used without its compiled half, because that one fixes the depth of nesting at 256.
+// Definitions are at most three deep. Together with the longest line this bounds the depth of what
+// comes out, which toml++ itself does not do for dotted keys: it would run out of stack on a long
+// enough one.
+#define TOML_HEADER_ONLY 1
+#define TOML_EXCEPTIONS 0
+#define TOML_ENABLE_FORMATTERS 0
+#define TOML_MAX_NESTED_VALUES 8
+// Its assertions are wrong: some fail on input that the code behind them reports as an error, such
+// as "[!". Checked they would end the generator, and with NDEBUG they turn into promises to the
+// compiler that do not hold.
+#undef NDEBUG
+#define TOML_ASSERT(expression) static_cast<void>(0)
+#include <toml++/toml.h>
+
+namespace kivgen {
+namespace {
+
+constexpr std::size_t largestFile = std::size_t{4} << 20U;
+constexpr std::size_t longestLine = 1000; // bytes
+
+std::optional<std::string> readText(std::filesystem::path const& path, std::string const& name,
+                                    Faults& faults)
+{
+    std::error_code error;
+    auto const size = std::filesystem::file_size(path, error);
+    if (!error && size > largestFile) {
+        faults.push_back({{name}, "is larger than 4 MiB; a definition takes a few lines"});
+        return std::nullopt;
+    }
+    std::ifstream file{path, std::ios::binary};
+    if (error || !file) {
+        auto const reason = error ? error : std::error_code{errno, std::generic_category()};
+        faults.push_back({{name}, "cannot be read: " + reason.message()});
+        return std::nullopt;
+    }
+    std::string text(static_cast<std::size_t>(size), '\0');
+    file.read(text.data(), static_cast<std::streamsize>(text.size()));
+    if (file.gcount() != static_cast<std::streamsize>(text.size())) {
+        faults.push_back({{name}, "cannot be read to its end"});
+        return std::nullopt;
+    }
+    return text;
+}
+
+bool isPlain(char byte)
+{
+    return (byte >= ' ' && byte <= '~') || byte == '\t' || byte == '\n' || byte == '\r';
+}
+
+/// Keeps from toml++ what it cannot bear: its tables of other characters end in undefined behaviour
+/// for some of them. So definitions are ASCII, which also keeps out characters that deceive the
+/// eye.
+bool isReadable(std::string const& text, std::string const& name, Faults& faults)
+{
+    std::size_t number = 1;
+    for (auto line = text.begin(); line != text.end(); ++number) {
+        auto const end = std::find(line, text.end(), '\n');
+        auto const stranger = std::find_if_not(line, end, isPlain);
+        auto const column = static_cast<std::size_t>(stranger - line) + 1;
+        if (column > longestLine + 1) {
+            faults.push_back(
+                {{name, number, longestLine + 1},
+                 "the line is longer than " + std::to_string(longestLine) + " bytes; break it up"});
+            return false;
+        }
+        if (stranger != end) {
+            faults.push_back({{name, number, column},
+                              "the byte " + inQuotes({stranger, stranger + 1}) +
+                                  " is not plain ASCII; in 'about' another character is written as "
+                                  "an escape, such as \\u00b0"});
+            return false;
+        }
+        line = end == text.end() ? end : end + 1;
+    }
+    return true;
+}
+
+Place placeOf(std::string const& name, toml::source_position position)
+{
+    return {name, position.line, position.column};
+}
+
+/// The parser notices a key that is there already behind it, at the equals sign or the value. The
+/// key itself begins its line, unless it stands in an inline table.
+std::size_t columnOfKey(std::string const& text, Place const& noticed)
+{
+    std::size_t begin = 0;
+    for (std::size_t line = 1; line < noticed.line; ++line) {
+        begin = text.find('\n', begin) + 1;
+    }
+    auto const before = std::string_view{text}.substr(begin, noticed.column);
+    auto const first = before.find_first_not_of(" \t");
+    bool const isInline = before.find('{') != std::string_view::npos;
+    return isInline || first == std::string_view::npos ? noticed.column : first + 1;
+}
+
+Fault faultOf(toml::parse_error const& error, std::string const& text, std::string const& name)
+{
+    auto place = placeOf(name, error.source().begin);
+    std::string_view const description = error.description();
+    if (description.find("TOML_MAX_NESTED_VALUES") != std::string_view::npos) {
+        return {place, "tables and arrays are nested deeper than any definition needs"};
+    }
+    if (description.find("unescaped control characters") != std::string_view::npos) {
+        return {place, "is not TOML: the string is not closed on its line"}; // a line break
+    }
+    if (description.find("cannot redefine") == std::string_view::npos) {
+        return {place, "is not TOML: " + printable(lowered(description))};
+    }
+    place.column = columnOfKey(text, place);
+    auto const open = description.find('\'') + 1;
+    auto const key = description.substr(open, description.rfind('\'') - open);
+    return {place, "the key " + inQuotes(key) + " stands here a second time; keep one of the two"};
+}
+
+std::string_view nameOf(toml::node_type type)
+{
+    switch (type) {
+    case toml::node_type::table:
+        return "a table";
+    case toml::node_type::array:
+        return "an array";
+    case toml::node_type::string:
+        return "a string";
+    case toml::node_type::integer:
+        return "an integer";
+    case toml::node_type::floating_point:
+        return "a floating-point number";
+    case toml::node_type::boolean:
+        return "a boolean";
+    default:
+        return "a date or time";
+    }
+}
+
+Node nodeOf(toml::node const& source, std::string const& name)
+{
+    Node node;
+    node.typeName = nameOf(source.type());
+    node.place = placeOf(name, source.source().begin);
+    if (auto const* const text = source.as_string()) {
+        node.type = Node::Type::Text;
+        node.text = text->get();
+    } else if (auto const* const list = source.as_array()) {
+        node.type = Node::Type::List;
+        for (auto const& entry : *list) {
+            node.list.push_back(nodeOf(entry, name));
+        }
+    } else if (auto const* const table = source.as_table()) {
+        node.type = Node::Type::Table;
+        for (auto const& [key, value] : *table) {
+            auto const place = placeOf(name, key.source().begin);
+            node.table.push_back({std::string{key.str()}, place, nodeOf(value, name)});
+        }
+        // toml++ keeps tables sorted by key; here the order of the file counts.
+        std::sort(node.table.begin(), node.table.end(), [](Entry const& one, Entry const& other) {
+            return std::tie(one.place.line, one.place.column) <
+                   std::tie(other.place.line, other.place.column);
+        });
+    }
+    return node;
+}
+
+} // namespace
+
+std::optional<Node> readDocument(std::filesystem::path const& path, std::string const& name,
+                                 Faults& faults)
+{
+    auto const text = readText(path, name, faults);
+    if (!text || !isReadable(*text, name, faults)) {
+        return std::nullopt;
+    }
+    auto const result = toml::parse(*text);
+    if (!result) {
+        faults.push_back(faultOf(result.error(), *text, name));
+        return std::nullopt;
+    }
+    return nodeOf(result.table(), name);
+}
+
+} // namespace kivgen

@@ -1,0 +1,228 @@
+#include "generator/model/Fields.h"
+
+#include "catalogue/Suggestion.h"
+#include "generator/model/Forms.h"
+
+#include <algorithm>
+#include <array>
+#include <set>
+#include <utility>
+
+namespace kivgen {
+namespace {
+
+using zel::kiv::catalogue::didYouMean;
+using zel::kiv::catalogue::kindOf;
+using zel::kiv::catalogue::kindWords;
+
+constexpr std::array<std::string_view, 3> targetKeys{"element", "element_list", "polymorphic"};
+
+class Reader {
+public:
+    Reader(Definition& definition, Faults& faults) : definition_{definition}, faults_{faults} {}
+
+    void readRow(Entry const& row);
+    void fail(Place const& place, std::string text) { faults_.push_back({place, std::move(text)}); }
+
+private:
+    bool isKey(Entry const& row);
+    void readWord(Node const& value, Field field);
+    void readTable(Node const& value, Field field);
+    Entry const* targetIn(Node const& value);
+    bool isTarget(Node const& value);
+    void addTarget(Node const& value, Field& field);
+    void readTargets(Node const& value, Field& field);
+    void add(Field field) { definition_.resource.fields.push_back(std::move(field)); }
+
+    Definition& definition_;
+    Faults& faults_;
+};
+
+std::string spelt(std::string_view key, std::string_view target)
+{
+    return "{ " + std::string{key} + " = \"" + std::string{target} + "\" }";
+}
+
+Target targetOf(std::string_view text)
+{
+    if (text == externalWord) {
+        return {};
+    }
+    auto const colons = text.find("::");
+    if (colons == std::string_view::npos) {
+        return {std::string{text}, {}};
+    }
+    return {std::string{text.substr(0, colons)}, std::string{text.substr(colons + 2)}};
+}
+
+bool Reader::isKey(Entry const& row)
+{
+    if (row.key == "id" || row.key == "name" || row.key == "uri") {
+        fail(row.place, "every element has " + inQuotes(row.key) + "; remove the row");
+        return false;
+    }
+    if (!hasKeyForm(row.key)) {
+        fail(row.place,
+             "the key " + inQuotes(row.key) + " must be a letter, then letters and digits");
+        return false;
+    }
+    return true;
+}
+
+void Reader::readRow(Entry const& row)
+{
+    if (!isKey(row)) {
+        return;
+    }
+    Field field{row.key, Kind::String, {}, row.place};
+    if (row.value.type == Node::Type::Text) {
+        readWord(row.value, std::move(field));
+    } else if (row.value.type == Node::Type::Table) {
+        readTable(row.value, std::move(field));
+    } else {
+        fail(row.value.place,
+             "the kind of a field is a string or a table, not " + std::string{row.value.typeName});
+    }
+}
+
+void Reader::readWord(Node const& value, Field field)
+{
+    auto const kind = kindOf(value.text);
+    if (!kind && value.text.find("::") != std::string::npos) {
+        fail(value.place, inQuotes(value.text) + " is no kind; a field that holds an element is " +
+                              spelt("element", "service::Resource"));
+    } else if (!kind) {
+        auto const meant = didYouMean(value.text, kindWords);
+        fail(value.place, "unknown kind " + inQuotes(value.text) +
+                              (meant.empty() ? "; the plain kinds are 'string', 'int', 'double', "
+                                               "'bool', 'string list', 'int list', 'external' and "
+                                               "'external list'"
+                                             : meant));
+    } else if (*kind == Kind::Element) {
+        fail(value.place,
+             "an element field names its target: " + spelt("element", "service::Resource"));
+    } else if (*kind == Kind::ElementList) {
+        fail(value.place,
+             "an element list names its target: " + spelt("element_list", "service::Resource"));
+    } else if (*kind == Kind::Polymorphic) {
+        fail(value.place, "a polymorphic field names its targets: { polymorphic = "
+                          "[\"service::Resource\", \"external\"] }");
+    } else {
+        field.kind = *kind;
+        if (zel::kiv::catalogue::isNested(*kind)) {
+            field.targets.emplace_back();
+        }
+        add(std::move(field));
+    }
+}
+
+Entry const* Reader::targetIn(Node const& value)
+{
+    constexpr std::string_view choice = "one of 'element', 'element_list' and 'polymorphic'";
+    if (value.table.empty()) {
+        fail(value.place, "the table names no target; it takes " + std::string{choice});
+    }
+    Entry const* chosen = nullptr;
+    for (Entry const& entry : value.table) {
+        if (std::ranges::find(targetKeys, entry.key) == targetKeys.end()) {
+            auto const meant = didYouMean(entry.key, targetKeys);
+            fail(entry.place,
+                 "unknown key " + inQuotes(entry.key) +
+                     (meant.empty() ? "; the table takes " + std::string{choice} : meant));
+        } else if (chosen == nullptr) {
+            chosen = &entry;
+        } else {
+            fail(entry.place, inQuotes(entry.key) + " stands beside " + inQuotes(chosen->key) +
+                                  "; a field is of one kind");
+        }
+    }
+    return chosen;
+}
+
+void Reader::readTable(Node const& value, Field field)
+{
+    Entry const* const chosen = targetIn(value);
+    if (chosen == nullptr) {
+        return;
+    }
+    if (chosen->key == "polymorphic") {
+        field.kind = Kind::Polymorphic;
+        readTargets(chosen->value, field);
+        add(std::move(field));
+        return;
+    }
+    bool const isList = chosen->key == "element_list";
+    field.kind = isList ? Kind::ElementList : Kind::Element;
+    if (chosen->value.text == externalWord) {
+        fail(chosen->value.place, std::string{"this field is written "} +
+                                      (isList ? "\"external list\"" : "\"external\""));
+    } else if (isTarget(chosen->value)) {
+        addTarget(chosen->value, field);
+    }
+    add(std::move(field));
+}
+
+bool Reader::isTarget(Node const& value)
+{
+    if (value.type == Node::Type::Text) {
+        return true;
+    }
+    fail(value.place,
+         "a target is a string, \"service::Resource\", not " + std::string{value.typeName});
+    return false;
+}
+
+void Reader::addTarget(Node const& value, Field& field)
+{
+    field.targets.push_back(targetOf(value.text));
+    if (value.text != externalWord) {
+        definition_.uses.push_back({value.place, value.text});
+    }
+}
+
+void Reader::readTargets(Node const& value, Field& field)
+{
+    if (value.type != Node::Type::List) {
+        fail(value.place,
+             "'polymorphic' takes an array of targets, not " + std::string{value.typeName});
+        return;
+    }
+    if (value.list.size() < 2) {
+        fail(value.place, "a polymorphic field has two targets or more");
+    }
+    std::set<std::string_view> seen;
+    for (Node const& target : value.list) {
+        if (!isTarget(target)) {
+            continue;
+        }
+        if (seen.insert(target.text).second) {
+            addTarget(target, field);
+        } else {
+            fail(target.place, "the target " + inQuotes(target.text) +
+                                   " stands here a second time; keep one of the two");
+        }
+    }
+}
+
+} // namespace
+
+void readFields(Entry const& fields, Definition& definition, Faults& faults)
+{
+    Reader reader{definition, faults};
+    if (fields.value.type != Node::Type::Table) {
+        reader.fail(fields.value.place,
+                    "'fields' takes a table, not " + std::string{fields.value.typeName});
+        return;
+    }
+    Entry const* previous = nullptr;
+    for (Entry const& row : fields.value.table) {
+        if (previous != nullptr && row.key < previous->key) {
+            reader.fail(row.place, inQuotes(row.key) + " stands after " + inQuotes(previous->key) +
+                                       "; rows stand in ascending byte order of their keys");
+        }
+        previous = &row;
+        reader.readRow(row);
+    }
+}
+
+} // namespace kivgen

@@ -1,0 +1,216 @@
+#include "generator/Printer.h"
+#include "generator/pages/Pages.h"
+#include "generator/pages/Signatures.h"
+
+#include <algorithm>
+#include <string>
+
+namespace kivgen {
+
+namespace {
+
+constexpr std::string_view source = R"(
+$mark$$definition$
+#include "services/$service$/$Resource$.h"
+
+#include "frame/internal/Owning.h"
+#include "frame/internal/Reading.h"
+#include "frame/internal/Visitors.h"
+#include "frame/internal/Writing.h"
+
+#include <utility>
+
+namespace {
+
+namespace common = zel::kiv::common;
+namespace internal = zel::kiv::common::internal;
+
+using zel::common::types::PtrMap;
+using zel::common::types::PtrVector;
+using zel::dataformats::data::Value;
+
+using Resource = common::$service$::$Resource$;
+using Element = Resource::$Element$;
+
+class $Element$Deserializer final : public internal::ElementVisitor {
+public:
+$elementVisitor$
+
+    void visitObject(PtrMap<std::string, Value> const& map) override
+    {
+        internal::ObjectReader fields(map, *m_target, $longestKey$);
+$reads$
+    }
+
+private:
+$readMethods$
+    Element* m_target;
+};
+
+class $Resource$Deserializer final : public internal::ResourceVisitor {
+public:
+$resourceVisitor$
+
+    void visitArray(PtrVector<Value> const& entries) override
+    {
+$readEntries$
+    }
+
+private:
+    Resource* m_target;
+};
+
+} // namespace
+
+namespace zel::kiv::common::$service$ {
+
+$constructResource$
+
+$Resource$::~$Resource$() = default;
+
+std::unique_ptr<Value> $Resource$::serialize() const
+{
+    return internal::serializeAll(m_objects);
+}
+
+bool $Resource$::deserialize(Value const* value)
+{
+    $Resource$Deserializer visitor(*this);
+    visitor.visit(value);
+    return true;
+}
+
+std::size_t $Resource$::getNumberOfElements() const
+{
+    return m_objects.size();
+}
+
+std::vector<std::unique_ptr<Element>> const& $Resource$::getObjects() const
+{
+    return m_objects;
+}
+
+void $Resource$::addObject(std::unique_ptr<Element> element)
+{
+    m_objects.push_back(std::move(element));
+}
+
+std::unique_ptr<Element> $Resource$::extractElement(unsigned int index)
+{
+    if (index >= m_objects.size()) {
+        return nullptr;
+    }
+    return std::move(m_objects[index]);
+}
+
+$construct$
+
+$destruct$
+
+std::unique_ptr<Value> Element::serialize(SerializationType type) const
+{
+    if (type == SerializationType::Reference) {
+        return internal::makeReference(getUri());
+    }
+    internal::ObjectWriter object(type);
+$writes$
+    return object.take();
+}
+
+bool Element::deserialize(Value const* value)
+{
+    $Element$Deserializer visitor(*this);
+    visitor.visit(value);
+    return true;
+}
+$accessors$
+
+} // namespace zel::kiv::common::$service$
+)";
+
+std::string writeStep(FieldCode const& code)
+{
+    return wrapped(4, "if (", code.flags, " ||", ") {") + code.write + "    }\n";
+}
+
+std::string destructorOf(std::string const& element, std::string const& releases)
+{
+    std::string const head = "Element::~" + element + "()";
+    return releases.empty() ? head + " = default;\n" : head + "\n{\n" + releases + "}\n";
+}
+
+/// Only what is longer than a string holds in place is worth a reservation; the library asks again.
+std::size_t longestKeyOf(Resource const& resource)
+{
+    std::size_t longest = 0;
+    for (Field const& field : resource.fields) {
+        longest = std::max(longest, field.key.size());
+    }
+    return longest;
+}
+
+std::string readEntriesOf(Resource const& resource)
+{
+    std::string const failure = "Error while deserializing array into '" + resource.name +
+                                "::" + resource.element + "'-object!\\n";
+    return wrapped(8, "readEntries<&Resource::addObject>(",
+                   {"entries", "*m_target", '"' + failure + '"'}, ",", ");");
+}
+
+/// What the fields of one element make of its source unit.
+struct Steps {
+    std::string reads;
+    std::string readMethods;
+    std::string writes;
+    std::string releases;
+    std::string accessors;
+};
+
+Steps stepsOf(Resource const& resource, Interface const& interface)
+{
+    Steps steps;
+    for (Field const& field : resource.fields) {
+        FieldCode const code = codeOf(field, interface);
+        steps.reads += code.read;
+        if (!code.readMethod.empty()) {
+            steps.readMethods += code.readMethod + '\n';
+        }
+        steps.writes += writeStep(code);
+        steps.releases += code.release;
+        for (Accessor const& accessor : code.accessors) {
+            steps.accessors += '\n' + definitionOf(accessor, "Element");
+        }
+    }
+    return steps;
+}
+
+} // namespace
+
+Page sourcePage(Resource const& resource, Interface const& interface)
+{
+    Steps const steps = stepsOf(resource, interface);
+    return {
+        "services/" + resource.service + '/' + resource.name + ".cpp",
+        fill(
+            source,
+            {{"mark", generatedMark},
+             {"definition", resource.place.file},
+             {"service", resource.service},
+             {"Resource", resource.name},
+             {"Element", resource.element},
+             {"longestKey", std::to_string(longestKeyOf(resource))},
+             {"reads", steps.reads},
+             {"readMethods", steps.readMethods},
+             {"readEntries", readEntriesOf(resource)},
+             {"elementVisitor", visitorConstructorOf(resource.element + "Deserializer", "Element")},
+             {"resourceVisitor", visitorConstructorOf(resource.name + "Deserializer", "Resource")},
+             {"constructResource", constructorOf(resource.name + "::" + resource.name + "()",
+                                                 "IResourceBase", resource.resourceKey)},
+             {"construct", constructorOf("Element::" + resource.element + "()", "IObjectBase",
+                                         resource.elementKey)},
+             {"destruct", destructorOf(resource.element, steps.releases)},
+             {"writes", steps.writes},
+             {"accessors", steps.accessors}})};
+}
+
+} // namespace kivgen
