@@ -1,0 +1,56 @@
+# Completion of kiv for bash. What there is to complete is asked of kiv itself.
+
+_kiv_words() {
+    case $1 in
+    # The rows of the help that stand below this heading.
+    commands) "$kiv" --help | sed -n '/^Subcommands:/,/^$/s/^  \([a-z]\+\) .*/\1/p' ;;
+    options) "$kiv" "$2" --help | grep -o -e '--[a-z][a-z-]*' | sort -u ;;
+    # What an option may be is listed in braces in its help.
+    values) "$kiv" "$2" --help | sed -n "s/^ *$3 [A-Z]*:{\([a-z,]*\)}.*/\1/p" | tr ',' '\n' ;;
+    services) "$kiv" list --names | cut -d / -f 1 | uniq ;;
+    resources) "$kiv" list --names ;;
+    esac 2>/dev/null
+}
+
+_kiv_complete() {
+    mapfile -t COMPREPLY < <(compgen -W "$(_kiv_words "$@")" -- "${COMP_WORDS[COMP_CWORD]}")
+}
+
+_kiv() {
+    local kiv=${COMP_WORDS[0]} command=${COMP_WORDS[1]}
+    local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
+    COMPREPLY=()
+    if [ "$COMP_CWORD" -eq 1 ]; then
+        _kiv_complete commands
+        return
+    fi
+    if [[ $word == -* ]]; then
+        _kiv_complete options "$command"
+        return
+    fi
+    if [[ $previous == --* ]]; then
+        _kiv_complete values "$command" "$previous"
+        [ "${#COMPREPLY[@]}" -eq 0 ] || return
+    fi
+    # Which argument this is; the value of an option goes for one, which at worst offers files.
+    local argument=0 i
+    for ((i = 2; i <= COMP_CWORD; ++i)); do
+        [[ ${COMP_WORDS[i]} == -* ]] || argument=$((argument + 1))
+    done
+    case $command:$argument in
+    list:1) _kiv_complete services ;;
+    graph:1)
+        mapfile -t COMPREPLY < <(
+            compgen -W "$(_kiv_words services; _kiv_words resources)" -- "$word"
+        )
+        ;;
+    find:*) ;;
+    *:1) _kiv_complete resources ;;
+    *)
+        mapfile -t COMPREPLY < <(compgen -f -- "$word")
+        compopt -o filenames 2>/dev/null
+        ;;
+    esac
+}
+
+complete -F _kiv kiv

@@ -1,0 +1,261 @@
+#include "schema/Schema.h"
+
+#include "Console.h"
+#include "Lookup.h"
+#include "json/Make.h"
+
+#include <algorithm>
+#include <limits>
+#include <set>
+#include <string>
+
+namespace kiv::schema {
+
+namespace {
+
+using catalogue::Kind;
+using catalogue::Resource;
+using json::ValuePointer;
+
+/// A schema that is being put together.
+class Schema {
+public:
+    Schema& with(char const* keyword, ValuePointer value)
+    {
+        m_object->setNew(keyword, value.release());
+        return *this;
+    }
+    Schema& with(char const* keyword, std::string_view value)
+    {
+        return with(keyword, json::text(value));
+    }
+
+    ValuePointer take() { return std::move(m_object); }
+
+private:
+    std::unique_ptr<data::Object> m_object = std::make_unique<data::Object>();
+};
+
+constexpr std::string_view dialect = "https://json-schema.org/draft/2020-12/schema";
+constexpr std::string_view external = "external";
+/// What the library takes for service and resource lies between the first character and the third
+/// slash.
+constexpr std::string_view anyUri = "^/[^/]*/[^/]*/";
+
+/// Resources are named with a dot here: a slash would have to be escaped in references.
+std::string definitionOf(Resource const* resource)
+{
+    return resource == nullptr
+               ? std::string(external)
+               : std::string(resource->service) + "." + std::string(resource->resourceKey);
+}
+
+ValuePointer typed(std::string_view type)
+{
+    return Schema().with("type", type).take();
+}
+
+Schema referenceTo(Resource const* resource)
+{
+    Schema schema;
+    schema.with("$ref", "#/$defs/" + definitionOf(resource));
+    return schema;
+}
+
+/// A null is passed over wherever a field or an entry of a list may stand.
+ValuePointer orNull(std::string_view type)
+{
+    return json::array(json::text(type), json::text("null"));
+}
+
+Schema plain(Kind kind)
+{
+    Schema schema;
+    switch (kind) {
+    case Kind::Int:
+        schema.with("type", orNull("integer"))
+            .with("minimum", json::number(std::numeric_limits<int>::min()))
+            .with("maximum", json::number(std::numeric_limits<int>::max()));
+        return schema;
+    case Kind::Double:
+        schema.with("type", orNull("number"));
+        return schema;
+    case Kind::Bool:
+        schema.with("type", orNull("boolean"));
+        return schema;
+    default:
+        schema.with("type", orNull("string"));
+        return schema;
+    }
+}
+
+Schema nested(Resource const* target)
+{
+    Schema schema;
+    schema.with("anyOf", json::array(typed("string"), typed("null"), referenceTo(target).take()));
+    return schema;
+}
+
+/// A list of which nothing is read leaves its field unset, and does not come out again.
+Schema listOf(Schema entry)
+{
+    Schema schema;
+    schema.with("type", orNull("array"))
+        .with("items", entry.take())
+        .with("minItems", json::number(1))
+        .with("contains", Schema().with("not", typed("null")).take());
+    return schema;
+}
+
+ValuePointer uriText(std::string_view pattern)
+{
+    return Schema().with("type", "string").with("pattern", pattern).take();
+}
+
+/// The uri decides which target an object is read as, so it must be there.
+ValuePointer targetObject(Resource const* target, std::string_view pattern)
+{
+    auto properties = std::make_unique<data::Object>();
+    properties->setNew("uri", uriText(pattern).release());
+    return referenceTo(target)
+        .with("properties", std::move(properties))
+        .with("required", json::array(json::text("uri")))
+        .take();
+}
+
+Schema polymorphic(catalogue::Field const& field)
+{
+    auto choices = std::make_unique<data::Array>();
+    choices->pushNew(typed("null").release());
+    for (auto const* target : field.targets) {
+        std::string const pattern =
+            target == nullptr ? std::string(anyUri) : "^/" + nameOf(target) + "/";
+        choices->pushNew(uriText(pattern).release());
+        choices->pushNew(targetObject(target, pattern).release());
+    }
+    Schema schema;
+    schema.with("anyOf", std::move(choices));
+    return schema;
+}
+
+Schema schemaFor(catalogue::Field const& field)
+{
+    switch (field.kind) {
+    case Kind::StringList:
+        return listOf(plain(Kind::String));
+    case Kind::IntList:
+        return listOf(plain(Kind::Int));
+    case Kind::Element:
+    case Kind::External:
+        return nested(field.targets.front());
+    case Kind::ElementList:
+    case Kind::ExternalList:
+        return listOf(nested(field.targets.front()));
+    case Kind::Polymorphic:
+        return polymorphic(field);
+    default:
+        return plain(field.kind);
+    }
+}
+
+std::string descriptionOf(catalogue::Field const& field)
+{
+    std::string const targets = listed(targetNames(field), "or");
+    return std::string(catalogue::wordOf(field.kind)) + (targets.empty() ? "" : ": " + targets);
+}
+
+Schema elementWith(std::unique_ptr<data::Object> properties)
+{
+    Schema schema;
+    schema.with("type", "object")
+        .with("properties", std::move(properties))
+        .with("additionalProperties", json::boolean(false));
+    return schema;
+}
+
+ValuePointer elementOf(Resource const& resource)
+{
+    auto properties = std::make_unique<data::Object>();
+    for (auto const& field : resource.fields) {
+        properties->setNew(
+            std::string(field.key).c_str(),
+            schemaFor(field).with("description", descriptionOf(field)).take().release());
+    }
+    return elementWith(std::move(properties))
+        .with("title", nameOf(&resource))
+        .with("description", resource.about)
+        .take();
+}
+
+ValuePointer externalElement()
+{
+    auto properties = std::make_unique<data::Object>();
+    for (char const* key : {"id", "name", "uri"}) {
+        properties->setNew(key, plain(Kind::String).take().release());
+    }
+    return elementWith(std::move(properties))
+        .with("title", external)
+        .with("description", "A reference to something outside the interface.")
+        .take();
+}
+
+using Reached = std::set<Resource const*>;
+
+void reach(Resource const* resource, Reached& reached)
+{
+    if (!reached.insert(resource).second || resource == nullptr) {
+        return;
+    }
+    for (auto const& field : resource->fields) {
+        for (auto const* target : field.targets) {
+            reach(target, reached);
+        }
+    }
+}
+
+std::unique_ptr<data::Object> definitions(Reached const& reached)
+{
+    auto all = std::make_unique<data::Object>();
+    for (auto const* resource : reached) {
+        ValuePointer element = resource == nullptr ? externalElement() : elementOf(*resource);
+        all->setNew(definitionOf(resource).c_str(), element.release());
+    }
+    return all;
+}
+
+Schema documentOf(Resource const& resource)
+{
+    Schema schema;
+    schema.with("type", "array").with("items", referenceTo(&resource).take());
+    return schema;
+}
+
+} // namespace
+
+std::unique_ptr<data::Value> ofResource(Resource const& resource)
+{
+    Reached reached;
+    reach(&resource, reached);
+    return documentOf(resource)
+        .with("$schema", dialect)
+        .with("$defs", definitions(reached))
+        .with("title", nameOf(&resource))
+        .with("description", resource.about)
+        .take();
+}
+
+std::unique_ptr<data::Value> ofInterface()
+{
+    Reached reached;
+    for (auto const& resource : catalogue::resources()) {
+        reach(&resource, reached);
+    }
+    auto all = definitions(reached);
+    for (auto const& resource : catalogue::resources()) {
+        all->setNew((definitionOf(&resource) + ".document").c_str(),
+                    documentOf(resource).take().release());
+    }
+    return Schema().with("$schema", dialect).with("$defs", std::move(all)).take();
+}
+
+} // namespace kiv::schema

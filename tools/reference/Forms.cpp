@@ -1,0 +1,86 @@
+#include "tools/reference/Forms.h"
+
+#include "Lookup.h"
+#include "frame/IObjectBase.h"
+#include "tools/reference/Templates.h"
+#include "tools/sample/Sample.h"
+#include "json/JsonWriter.h"
+
+#include <algorithm>
+
+namespace reference {
+
+namespace {
+
+using kiv::catalogue::Resource;
+using kiv::common::SerializationType;
+
+/// Longer samples hide the shape that they are to show.
+constexpr auto mostLines = 120;
+
+std::string jsonOf(kiv::data::Value const& value)
+{
+    std::string text;
+    kiv::Output output(text);
+    kiv::json::makeWriter(output, kiv::json::Layout::Indented)->document(&value);
+    output.flush();
+    return text;
+}
+
+/// The resource that a uri names, or null.
+Resource const* resourceOf(std::string_view uri)
+{
+    auto const first = uri.find('/', 1);
+    auto const second = first == std::string_view::npos ? first : uri.find('/', first + 1);
+    if (second == std::string_view::npos) {
+        return nullptr;
+    }
+    return kiv::catalogue::find(uri.substr(1, first - 1),
+                                uri.substr(first + 1, second - first - 1));
+}
+
+std::string linkTo(std::string_view uri)
+{
+    auto const* const resource = uri.starts_with('/') ? resourceOf(uri) : nullptr;
+    if (resource == nullptr) {
+        return escaped(uri);
+    }
+    return "<a href=\"#" + escaped(kiv::nameOf(resource)) + "\">" + escaped(uri) + "</a>";
+}
+
+/// The samples hold no quotes within a text, so every second quote ends one.
+std::string withLinks(std::string_view json)
+{
+    std::string html;
+    bool isText = false;
+    while (!json.empty()) {
+        auto const end = std::min(json.find('"'), json.size());
+        auto const part = json.substr(0, end);
+        html += isText ? linkTo(part) : escaped(part);
+        if (end < json.size()) {
+            html += "&quot;";
+            isText = !isText;
+        }
+        json.remove_prefix(std::min(end + 1, json.size()));
+    }
+    return html;
+}
+
+} // namespace
+
+Forms formsOf(Resource const& resource)
+{
+    auto const json = [&](int depth, SerializationType type) {
+        auto const element = resource.makeElement();
+        element->deserialize(zel::kiv::sample::sampleOf(resource, depth).get());
+        return jsonOf(*element->serialize(type));
+    };
+    std::string full = json(1, SerializationType::Full);
+    if (std::ranges::count(full, '\n') > mostLines) {
+        full = json(0, SerializationType::Full);
+    }
+    return {withLinks(full), withLinks(json(0, SerializationType::Shallow)),
+            withLinks(json(0, SerializationType::Reference))};
+}
+
+} // namespace reference
