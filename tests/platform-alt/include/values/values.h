@@ -1,0 +1,201 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+// Another implementation of what the library takes from its platform, made to differ from the
+// stand-ins wherever it may: whatever the library leans on that nobody has promised breaks here.
+// What reading needs beyond that (walking a map, the plain values) is for the tests.
+
+namespace zel::common::types {
+
+/// Public members and a short length.
+template <typename C>
+struct BufferDescriptor {
+    C* start;
+    std::uint32_t length;
+};
+
+/// Is its map, and can be walked through as one.
+template <typename K, typename V>
+class PtrMap : public std::map<K, void*> {
+};
+
+/// Hands out plain pointers.
+template <typename V>
+class PtrVector {
+public:
+    V* const* begin() const { return m_entries.data(); }
+    V* const* end() const { return m_entries.data() + m_entries.size(); }
+    std::vector<V*> m_entries;
+};
+
+} // namespace zel::common::types
+
+namespace zel::dataformats::data {
+
+class ConstVisitor;
+
+/// Codes that are not an enumeration and, but for the three promised ones, others.
+struct ValueType {
+    static constexpr std::int32_t String = 5;
+    static constexpr std::int32_t Array = 7;
+    static constexpr std::int32_t Object = 8;
+    static constexpr std::int32_t Float = 20;
+    static constexpr std::int32_t Integer = 21;
+    static constexpr std::int32_t Boolean = 22;
+    static constexpr std::int32_t Blob = -1;
+    static constexpr std::int32_t Null = -2;
+};
+
+class Value {
+public:
+    virtual ~Value();
+    virtual char const* typeName() const = 0;
+    virtual void dispatch(ConstVisitor& visitor) const = 0;
+    virtual std::int32_t getType() const = 0;
+    virtual Value* clone() const = 0;
+};
+
+class Null : public Value {
+public:
+    char const* typeName() const override;
+    void dispatch(ConstVisitor& visitor) const override;
+    std::int32_t getType() const override;
+    Value* clone() const override;
+};
+
+class Boolean : public Value {
+public:
+    Boolean(bool value);
+    char const* typeName() const override;
+    void dispatch(ConstVisitor& visitor) const override;
+    std::int32_t getType() const override;
+    Value* clone() const override;
+    bool get() const { return m_value; }
+
+private:
+    bool m_value;
+};
+
+class Integer : public Value {
+public:
+    Integer(int value);
+    char const* typeName() const override;
+    void dispatch(ConstVisitor& visitor) const override;
+    std::int32_t getType() const override;
+    Value* clone() const override;
+    int get() const { return m_value; }
+
+private:
+    int m_value;
+};
+
+class Float : public Value {
+public:
+    Float(double value);
+    char const* typeName() const override;
+    void dispatch(ConstVisitor& visitor) const override;
+    std::int32_t getType() const override;
+    Value* clone() const override;
+    double get() const { return m_value; }
+
+private:
+    double m_value;
+};
+
+class String : public Value {
+public:
+    String(std::string const& text);
+    char const* typeName() const override;
+    void dispatch(ConstVisitor& visitor) const override;
+    std::int32_t getType() const override;
+    Value* clone() const override;
+    std::string const& get() const { return m_text; }
+
+private:
+    std::string m_text;
+};
+
+class Blob : public Value {
+public:
+    Blob(zel::common::types::BufferDescriptor<char const> bytes);
+    char const* typeName() const override;
+    void dispatch(ConstVisitor& visitor) const override;
+    std::int32_t getType() const override;
+    Value* clone() const override;
+
+private:
+    std::string m_bytes;
+};
+
+class Array : public Value {
+public:
+    ~Array() override;
+    char const* typeName() const override;
+    void dispatch(ConstVisitor& visitor) const override;
+    std::int32_t getType() const override;
+    Value* clone() const override;
+    void pushNew(Value* value);
+    zel::common::types::PtrVector<Value>& get() { return m_entries; }
+
+private:
+    zel::common::types::PtrVector<Value> m_entries;
+};
+
+class Object : public Value {
+public:
+    ~Object() override;
+    char const* typeName() const override;
+    void dispatch(ConstVisitor& visitor) const override;
+    std::int32_t getType() const override;
+    Value* clone() const override;
+
+    /// Throws for a key that is there already.
+    void setNew(char const* key, Value* value);
+    zel::common::types::PtrMap<std::string, Value> const& get() const { return m_entries; }
+
+private:
+    zel::common::types::PtrMap<std::string, Value> m_entries;
+};
+
+/// Throws where the value is of another type, or is not there.
+class Ref {
+public:
+    Ref(Value const* value) : m_value(value) {}
+    std::string asString() const;
+    int asInteger() const;
+    bool asBoolean() const;
+    double asFloat() const;
+
+private:
+    Value const* m_value;
+};
+
+class ConstVisitor {
+public:
+    virtual ~ConstVisitor();
+    virtual void visitNull() = 0;
+    virtual void visitBoolean(bool value) = 0;
+    virtual void visitInteger(int value) = 0;
+    virtual void visitFloat(double value) = 0;
+    virtual void visitString(zel::common::types::BufferDescriptor<char const> text) = 0;
+    virtual void visitBlob(zel::common::types::BufferDescriptor<char const> bytes) = 0;
+    virtual void visitArray(zel::common::types::PtrVector<Value> const& entries) = 0;
+    virtual void visitObject(zel::common::types::PtrMap<std::string, Value> const& entries) = 0;
+
+    /// Calls nothing for a null pointer.
+    int visit(Value const* value);
+};
+
+} // namespace zel::dataformats::data
+
+namespace zel::kiv::common {
+
+/// Fills the third text alone, with all that stands behind the second part.
+bool getUriSplitted(std::string const& uri, std::string& first, std::string& second,
+                    std::string& third);
+
+} // namespace zel::kiv::common
