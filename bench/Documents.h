@@ -1,0 +1,33 @@
+#pragma once
+
+#include "catalogue/Catalogue.h"
+#include "values/values.h"
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace bench {
+
+/// One sort of document to measure with.
+struct Workload {
+    std::string_view name;     ///< as it stands in the results
+    std::string_view resource; ///< `radio::Stations`
+};
+
+/// - stations: 30 of 54 fields, among them two bands of two ranges each and an audio segment
+/// - locations: all plain fields and 20 nested elements
+/// - calls: all fields of the smallest element
+/// - contexts: all fields of an element with many nested ones, down to the third level
+inline constexpr Workload workloads[] = {{"stations", "radio::Stations"},
+                                         {"locations", "places::Locations"},
+                                         {"calls", "basicphonecall::Calls"},
+                                         {"contexts", "guidance::DrivingContexts"}};
+
+zel::kiv::catalogue::Resource const& resourceOf(Workload const& workload);
+
+/// The value form of a resource with that many elements. The same for every run.
+std::unique_ptr<zel::dataformats::data::Array> document(Workload const& workload,
+                                                        std::size_t elements);
+
+} // namespace bench
