@@ -1,8 +1,7 @@
+#include "commandline/CommandLine.h"
 #include "generator/Output.h"
 #include "generator/model/Loader.h"
 #include "generator/pages/Pages.h"
-
-#include <CLI/CLI.hpp>
 
 #include <cstdio>
 #include <cstdlib>
@@ -33,18 +32,22 @@ int run(std::filesystem::path const& definitions, std::filesystem::path const& o
 
 int runCommandLine(int argc, char const* const* argv)
 {
-    CLI::App app{
+    commandline::CommandLine line(
+        "kivgen",
         "Turns the definitions of the interface into C++ classes and the catalogue's table.\n"
         "Faults in the definitions are all reported, and then nothing is written.\n\n"
         "  kivgen services build/generated    generate\n"
-        "  kivgen services                    check the definitions only"};
-    std::filesystem::path definitions;
-    std::filesystem::path output;
-    app.add_option("DEFINITIONS", definitions, "The folder 'services' with the definitions")
-        ->required();
-    app.add_option("OUTPUT", output,
-                   "The folder to write to; files whose text is unchanged are not touched");
-    CLI11_PARSE(app, argc, argv);
+        "  kivgen services                    check the definitions only");
+    std::string definitions;
+    std::string output;
+    auto arguments = line.arguments();
+    arguments.required("DEFINITIONS", definitions, "The folder 'services' with the definitions");
+    arguments.optional("OUTPUT", output,
+                       "The folder to write to; files whose text is unchanged are not touched");
+    if (auto const text = line.parse(argc, argv)) {
+        std::cout << *text;
+        return EXIT_SUCCESS;
+    }
     return run(definitions, output);
 }
 
@@ -54,6 +57,9 @@ int main(int argc, char** argv)
 {
     try {
         return runCommandLine(argc, argv);
+    } catch (commandline::Misuse const& fault) {
+        static_cast<void>(std::fprintf(stderr, "kivgen: %s\n", fault.what()));
+        return EXIT_FAILURE;
     } catch (std::exception const& fault) {
         static_cast<void>(std::fprintf(stderr, "%s\n", fault.what()));
         return EXIT_FAILURE;

@@ -6,9 +6,9 @@
 
 #include "frame/IResourceBase.h"
 
-#include <CLI/CLI.hpp>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -63,10 +63,12 @@ std::string convertedByTool(catalogue::Resource const& resource, std::string con
     auto const file = std::filesystem::path(testing::TempDir()) /
                       ("kiv-convert-" + std::to_string(getpid()) + ".json");
     std::ofstream(file) << json;
-    CLI::App app;
+    std::string const name = nameOf(&resource);
+    std::array const words{"convert", "--compact", name.c_str(), file.c_str()};
+    commandline::CommandLine line("convert", "");
     auto const command = makeConvertCommand();
-    command->declare(app);
-    app.parse("--compact " + nameOf(&resource) + " " + file.string());
+    command->declare(line.arguments());
+    line.parse(static_cast<int>(words.size()), words.data());
     std::string text = printed([&](Output& output) {
         Console console{std::move(output), Style(STDOUT_FILENO)};
         command->run(console);

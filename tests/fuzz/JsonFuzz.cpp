@@ -3,8 +3,6 @@
 #include "catalogue/Catalogue.h"
 #include "tests/fuzz/Require.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <cstdint>
 #include <optional>
@@ -12,6 +10,7 @@
 #include <string_view>
 #include <sys/mman.h>
 #include <unistd.h>
+#include <vector>
 
 /// Bytes as a JSON file for `kiv convert` and `kiv check`. The first byte picks the resource, the
 /// second the form.
@@ -74,15 +73,16 @@ MemoryFile const& outputFile()
     return file;
 }
 
+using Words = std::vector<char const*>; // the command and what follows it
+
 /// What the command prints for this text, or nothing if it refuses it.
-std::optional<std::string> printed(kiv::Command& command, std::string_view json,
-                                   std::string const& arguments)
+std::optional<std::string> printed(kiv::Command& command, std::string_view json, Words const& words)
 {
     inputFile().fill(json);
     outputFile().clear();
-    CLI::App app;
-    command.declare(app);
-    app.parse(arguments);
+    commandline::CommandLine line("kiv", "");
+    command.declare(line.arguments());
+    line.parse(static_cast<int>(words.size()), words.data());
     kiv::Console console{kiv::Output(outputFile().descriptor()),
                          kiv::Style(outputFile().descriptor())};
     try {
@@ -95,14 +95,14 @@ std::optional<std::string> printed(kiv::Command& command, std::string_view json,
     return outputFile().text();
 }
 
-std::optional<std::string> converted(std::string_view json, std::string const& arguments)
+std::optional<std::string> converted(std::string_view json, Words const& words)
 {
-    return printed(*kiv::makeConvertCommand(), json, arguments);
+    return printed(*kiv::makeConvertCommand(), json, words);
 }
 
-std::optional<std::string> checked(std::string_view json, std::string const& arguments)
+std::optional<std::string> checked(std::string_view json, Words const& words)
 {
-    return printed(*kiv::makeCheckCommand(), json, arguments);
+    return printed(*kiv::makeCheckCommand(), json, words);
 }
 
 std::string nameOf(zel::kiv::catalogue::Resource const& resource)
@@ -119,17 +119,21 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     }
     auto const all = zel::kiv::catalogue::resources();
     std::string const resource = nameOf(all[data[0] % all.size()]);
-    std::string const place = resource + ' ' + inputFile().path();
-    std::string const arguments = place + (data[1] % 2 != 0 ? " --form shallow" : " --form full") +
-                                  (data[1] % 4 < 2 ? " --compact" : "");
+    std::string const file = inputFile().path();
+    Words const check{"kiv", resource.c_str(), file.c_str()};
+    Words convert = check;
+    convert.insert(convert.end(), {"--form", data[1] % 2 != 0 ? "shallow" : "full"});
+    if (data[1] % 4 < 2) {
+        convert.push_back("--compact");
+    }
     std::string_view const json{reinterpret_cast<char const*>(data) + 2, size - 2};
 
-    auto const once = converted(json, arguments);
+    auto const once = converted(json, convert);
     if (once) {
-        require(converted(*once, arguments) == once, "what was converted converts to itself");
-        require(checked(json, place).has_value(), "what can be converted can be checked");
+        require(converted(*once, convert) == once, "what was converted converts to itself");
+        require(checked(json, check).has_value(), "what can be converted can be checked");
     } else {
-        static_cast<void>(checked(json, place));
+        static_cast<void>(checked(json, check));
     }
     return 0;
 }

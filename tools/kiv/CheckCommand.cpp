@@ -6,8 +6,6 @@
 #include "json/JsonWriter.h"
 #include "json/Make.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <functional>
 #include <utility>
@@ -43,12 +41,12 @@ public:
         return "kiv check gearbox/transmissions message.json";
     }
 
-    void declare(CLI::App& app) override
+    void declare(commandline::Arguments arguments) override
     {
-        app.add_option("RESOURCE", m_resource, "The resource, as in uris")->required();
-        app.add_option("FILE", m_files, "JSON files, or - for standard input")->required();
-        app.add_flag("--strict", m_strict, "Count what is merely suspect as a finding");
-        app.add_flag("--json", m_json, "Write the findings as JSON");
+        arguments.required("RESOURCE", m_resource, "The resource, as in uris");
+        arguments.required("FILE", m_files, "JSON files, or - for standard input");
+        arguments.flag("--strict", m_strict, "Count what is merely suspect as a finding");
+        arguments.flag("--json", m_json, "Write the findings as JSON");
     }
 
     Exit run(Console& console) override

@@ -1,13 +1,10 @@
 #pragma once
 
 #include "Console.h"
+#include "commandline/CommandLine.h"
 
 #include <memory>
 #include <string_view>
-
-namespace CLI {
-class App;
-} // namespace CLI
 
 namespace kiv {
 
@@ -31,7 +28,7 @@ public:
     [[nodiscard]] virtual std::string_view example() const = 0; ///< a call that works as it stands
 
     /// Declares options and arguments; the parsed values go into this object.
-    virtual void declare(CLI::App& app) = 0;
+    virtual void declare(commandline::Arguments arguments) = 0;
 
     /// Does the work. May throw `Failure`; what was printed up to then may be cut off.
     virtual Exit run(Console& console) = 0;

@@ -7,8 +7,6 @@
 #include "json/JsonReader.h"
 #include "json/JsonWriter.h"
 
-#include <CLI/CLI.hpp>
-
 #include <array>
 
 namespace kiv {
@@ -40,16 +38,14 @@ public:
         return "kiv convert radio/presets presets.json --form shallow";
     }
 
-    void declare(CLI::App& app) override
+    void declare(commandline::Arguments arguments) override
     {
-        app.add_option("RESOURCE", m_resource, "The resource, as in uris")->required();
-        app.add_option("FILE", m_file, "The JSON file, or - for standard input")->required();
-        app.add_option("--form", m_form,
-                       "full: with nested elements; shallow: nested elements as their uri; "
-                       "reference: nothing but the uri")
-            ->check(CLI::IsMember(formNames()))
-            ->capture_default_str();
-        app.add_flag("--compact", m_compact, "Without blanks and line breaks");
+        arguments.required("RESOURCE", m_resource, "The resource, as in uris");
+        arguments.required("FILE", m_file, "The JSON file, or - for standard input");
+        arguments.choice("--form", m_form, formNames(),
+                         "full: with nested elements; shallow: nested elements as their uri; "
+                         "reference: nothing but the uri");
+        arguments.flag("--compact", m_compact, "Without blanks and line breaks");
     }
 
     /// A resource reads and writes an array of elements, each on its own, and anything but an array

@@ -6,8 +6,6 @@
 #include "walk/Guard.h"
 #include "json/JsonWriter.h"
 
-#include <CLI/CLI.hpp>
-
 namespace kiv {
 
 namespace {
@@ -24,11 +22,11 @@ public:
         return "kiv diff radio/presets before.json after.json";
     }
 
-    void declare(CLI::App& app) override
+    void declare(commandline::Arguments arguments) override
     {
-        app.add_option("RESOURCE", m_resource, "The resource, as in uris")->required();
-        app.add_option("A", m_left, "A JSON file, or - for standard input")->required();
-        app.add_option("B", m_right, "Another one")->required();
+        arguments.required("RESOURCE", m_resource, "The resource, as in uris");
+        arguments.required("A", m_left, "A JSON file, or - for standard input");
+        arguments.required("B", m_right, "Another one");
     }
 
     Exit run(Console& console) override

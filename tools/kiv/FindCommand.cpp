@@ -3,8 +3,6 @@
 #include "Lookup.h"
 #include "catalogue/Suggestion.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <cctype>
 
@@ -30,12 +28,11 @@ public:
     }
     [[nodiscard]] std::string_view example() const override { return "kiv find segment"; }
 
-    void declare(CLI::App& app) override
+    void declare(commandline::Arguments arguments) override
     {
-        app.add_option("WORD", m_word,
-                       "A part of a service, resource, class or key, in any case; or a kind of "
-                       "field in full, such as polymorphic or 'element list'")
-            ->required();
+        arguments.required("WORD", m_word,
+                           "A part of a service, resource, class or key, in any case; or a kind of "
+                           "field in full, such as polymorphic or 'element list'");
     }
 
     Exit run(Console& console) override

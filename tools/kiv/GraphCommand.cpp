@@ -1,8 +1,6 @@
 #include "Command.h"
 #include "Lookup.h"
 
-#include <CLI/CLI.hpp>
-
 #include <map>
 #include <set>
 #include <utility>
@@ -90,11 +88,12 @@ public:
         return "kiv graph radio | dot -Tsvg > radio.svg";
     }
 
-    void declare(CLI::App& app) override
+    void declare(commandline::Arguments arguments) override
     {
-        app.add_option("NAME", m_name,
-                       "A service or a resource, with its holders and what it holds; without one, "
-                       "the whole interface. An arrow bears the keys: list[], several-targets?");
+        arguments.optional(
+            "NAME", m_name,
+            "A service or a resource, with its holders and what it holds; without one, "
+            "the whole interface. An arrow bears the keys: list[], several-targets?");
     }
 
     Exit run(Console& console) override

@@ -1,8 +1,6 @@
 #include "Command.h"
 #include "Lookup.h"
 
-#include <CLI/CLI.hpp>
-
 namespace kiv {
 
 namespace {
@@ -16,10 +14,10 @@ public:
     }
     [[nodiscard]] std::string_view example() const override { return "kiv list radio"; }
 
-    void declare(CLI::App& app) override
+    void declare(commandline::Arguments arguments) override
     {
-        app.add_option("SERVICE", m_service, "The service whose resources to list");
-        app.add_flag("--names", m_names, "Only the names of the resources, one to a line");
+        arguments.optional("SERVICE", m_service, "The service whose resources to list");
+        arguments.flag("--names", m_names, "Only the names of the resources, one to a line");
     }
 
     Exit run(Console& console) override

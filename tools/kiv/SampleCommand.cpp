@@ -3,8 +3,6 @@
 #include "tools/sample/Sample.h"
 #include "json/JsonWriter.h"
 
-#include <CLI/CLI.hpp>
-
 namespace kiv {
 
 namespace {
@@ -24,13 +22,11 @@ public:
         return "kiv sample radio/presets --depth 0 > presets.json";
     }
 
-    void declare(CLI::App& app) override
+    void declare(commandline::Arguments arguments) override
     {
-        app.add_option("RESOURCE", m_resource, "The resource, as in uris")->required();
-        app.add_option("--depth", m_depth,
-                       "How many levels of nested elements are written out; below them are uris")
-            ->check(CLI::Range(0, deepest))
-            ->capture_default_str();
+        arguments.required("RESOURCE", m_resource, "The resource, as in uris");
+        arguments.number("--depth", m_depth, 0, deepest,
+                         "How many levels of nested elements are written out; below them are uris");
     }
 
     Exit run(Console& console) override

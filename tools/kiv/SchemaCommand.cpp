@@ -3,8 +3,6 @@
 #include "schema/Schema.h"
 #include "json/JsonWriter.h"
 
-#include <CLI/CLI.hpp>
-
 namespace kiv {
 
 namespace {
@@ -21,11 +19,11 @@ public:
         return "kiv schema radio/presets > presets.schema.json";
     }
 
-    void declare(CLI::App& app) override
+    void declare(commandline::Arguments arguments) override
     {
-        app.add_option("RESOURCE", m_resource,
-                       "The resource, as in uris; without one, the definitions of all, such as "
-                       "#/$defs/radio.presets.document, for other schemas to refer to");
+        arguments.optional("RESOURCE", m_resource,
+                           "The resource, as in uris; without one, the definitions of all, such as "
+                           "#/$defs/radio.presets.document, for other schemas to refer to");
     }
 
     Exit run(Console& console) override

@@ -3,8 +3,6 @@
 #include "json/JsonWriter.h"
 #include "json/Make.h"
 
-#include <CLI/CLI.hpp>
-
 namespace kiv {
 
 namespace {
@@ -125,10 +123,10 @@ public:
     }
     [[nodiscard]] std::string_view example() const override { return "kiv show radio/presets"; }
 
-    void declare(CLI::App& app) override
+    void declare(commandline::Arguments arguments) override
     {
-        app.add_option("RESOURCE", m_resource, "The resource, as in uris")->required();
-        app.add_flag("--json", m_json, "Print it as JSON");
+        arguments.required("RESOURCE", m_resource, "The resource, as in uris");
+        arguments.flag("--json", m_json, "Print it as JSON");
     }
 
     Exit run(Console& console) override

@@ -2,13 +2,10 @@
 #include "Failure.h"
 #include "catalogue/Suggestion.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <new>
-#include <sstream>
 #include <string_view>
 #include <unistd.h>
 #include <vector>
@@ -32,20 +29,15 @@ Commands allCommands()
     return commands;
 }
 
-void declare(CLI::App& app, Commands const& commands)
+void declare(commandline::CommandLine& line, Commands const& commands)
 {
-    app.name("kiv");
-    app.set_version_flag("--version", "kiv " KIV_VERSION);
-    app.require_subcommand(1);
-    app.get_formatter()->column_width(32);
-    app.footer("Resources are named as in uris: radio/presets.\n"
-               "Exit codes: 0 clean, 1 findings, 2 cannot do it.\n"
-               "Help and an example for one command: kiv COMMAND --help");
+    line.version("kiv " KIV_VERSION);
+    line.footer("Resources are named as in uris: radio/presets.\n"
+                "Exit codes: 0 clean, 1 findings, 2 cannot do it.\n"
+                "Help and an example for one command: kiv COMMAND --help");
     for (auto const& command : commands) {
-        CLI::App* const sub =
-            app.add_subcommand(std::string(command->name()), std::string(command->about()));
-        sub->footer("Example: " + std::string(command->example()));
-        command->declare(*sub);
+        command->declare(line.command(std::string(command->name()), std::string(command->about()),
+                                      "Example: " + std::string(command->example())));
     }
 }
 
@@ -67,36 +59,22 @@ void refuseUnknownCommand(int argc, char const* const* argv, Commands const& com
     }
 }
 
-kiv::Exit runParsed(CLI::App const& app, Commands const& commands, kiv::Console& console)
-{
-    for (auto const& command : commands) {
-        if (app.got_subcommand(std::string(command->name()))) {
-            return command->run(console);
-        }
-    }
-    return kiv::Exit::Unable;
-}
-
 kiv::Exit run(int argc, char const* const* argv, kiv::Console& console)
 {
-    CLI::App app("Looks things up in the service interface, and shows what the library makes of "
-                 "data.");
+    commandline::CommandLine line(
+        "kiv",
+        "Looks things up in the service interface, and shows what the library makes of data.");
     Commands const commands = allCommands();
-    declare(app, commands);
+    declare(line, commands);
     refuseUnknownCommand(argc, argv, commands);
-    try {
-        app.parse(argc, argv);
-    } catch (CLI::Success const& wish) { // --help or --version
-        std::ostringstream text;
-        app.exit(wish, text, text);
-        console.output.write(text.str());
+    if (auto const text = line.parse(argc, argv)) {
+        console.output.write(*text);
         return kiv::Exit::Clean;
-    } catch (CLI::ParseError const& fault) {
-        auto const used = app.get_subcommands();
-        std::string const call = used.empty() ? "kiv" : "kiv " + used.front()->get_name();
-        throw kiv::Failure(std::string(fault.what()) + " (" + call + " --help shows how)");
     }
-    return runParsed(app, commands, console);
+    auto const called = std::find_if(commands.begin(), commands.end(), [&](auto const& command) {
+        return command->name() == line.called();
+    });
+    return (*called)->run(console);
 }
 
 void complain(std::string const& where, std::string const& what)

@@ -18,7 +18,7 @@ using kiv::catalogue::Resource;
 
 Data text(std::string_view words)
 {
-    return Data(std::string(words));
+    return {std::string(words)};
 }
 
 /// A signature in three pieces, so that its name can stand out.

@@ -1,8 +1,7 @@
 #include "Lookup.h"
+#include "commandline/CommandLine.h"
 #include "tools/reference/Graph.h"
 #include "tools/reference/IndexPage.h"
-
-#include <CLI/CLI.hpp>
 
 #include <cstdlib>
 #include <exception>
@@ -35,26 +34,27 @@ void writeGraphs(fs::path const& folder)
     }
 }
 
-int run(int argc, char** argv)
+int run(int argc, char const* const* argv)
 {
-    CLI::App app("Writes the browsable reference");
-    app.require_subcommand(1);
-    fs::path folder;
-    auto* const graphs = app.add_subcommand("graphs", "Write the link graphs for Graphviz");
-    graphs->add_option("FOLDER", folder, "Where to write SERVICE.dot")->required();
+    commandline::CommandLine line("kivreference", "Writes the browsable reference");
+    std::string folder;
+    line.command("graphs", "Write the link graphs for Graphviz")
+        .required("FOLDER", folder, "Where to write SERVICE.dot");
 
-    fs::path templates;
-    fs::path pictures;
-    fs::path silence;
-    fs::path page;
-    auto* const index = app.add_subcommand("page", "Write the page");
-    index->add_option("--templates", templates, "The folder of the templates")->required();
-    index->add_option("--pictures", pictures, "The folder of the drawn graphs")->required();
-    index->add_option("--silence", silence, "HTML that tells what goes in wrong")->required();
-    index->add_option("FILE", page, "The page to write")->required();
-    CLI11_PARSE(app, argc, argv);
-
-    if (*graphs) {
+    std::string templates;
+    std::string pictures;
+    std::string silence;
+    std::string page;
+    auto index = line.command("page", "Write the page");
+    index.required("--templates", templates, "The folder of the templates");
+    index.required("--pictures", pictures, "The folder of the drawn graphs");
+    index.required("--silence", silence, "HTML that tells what goes in wrong");
+    index.required("FILE", page, "The page to write");
+    if (auto const text = line.parse(argc, argv)) {
+        std::cout << *text;
+        return EXIT_SUCCESS;
+    }
+    if (line.called() == "graphs") {
         writeGraphs(folder);
     } else {
         writeFile(page, indexPage({Templates(templates), pictures, silence}));
