@@ -1,18 +1,14 @@
 #include "Command.h"
+#include "Links.h"
 #include "Lookup.h"
 
-#include <map>
 #include <set>
-#include <utility>
 
 namespace kiv {
 
 namespace {
 
 using catalogue::Resource;
-
-/// Who holds whom, in the order of the catalogue.
-using Ends = std::pair<Resource const*, Resource const*>;
 
 std::string inQuotes(std::string_view text)
 {
@@ -29,52 +25,44 @@ std::string labelOf(catalogue::Field const& field)
     return catalogue::isList(field.kind) ? key + "[]" : key;
 }
 
-class Graph {
-public:
-    void add(Resource const& resource) { m_nodes.insert(&resource); }
-
-    void add(Resource const& holder, Resource const& held, catalogue::Field const& field)
-    {
-        add(holder);
-        add(held);
-        std::string& label = m_edges[{&holder, &held}];
-        label += (label.empty() ? "" : "\\n") + labelOf(field);
+std::string labelOf(std::vector<catalogue::Field const*> const& fields)
+{
+    std::string label;
+    for (auto const* field : fields) {
+        label += (label.empty() ? "" : "\\n") + labelOf(*field);
     }
+    return label;
+}
 
-    void print(Output& output) const
-    {
-        output.write("digraph kiv {\n"
-                     "  rankdir=LR\n"
-                     "  node [shape=box, fontname=\"Helvetica\", fontsize=11]\n"
-                     "  edge [fontname=\"Helvetica\", fontsize=9]\n");
-        for (auto const service : services()) {
-            printService(service, output);
-        }
-        for (auto const& [ends, label] : m_edges) {
-            output.write("  " + inQuotes(nameOf(ends.first)) + " -> " +
-                         inQuotes(nameOf(ends.second)) + " [label=" + inQuotes(label) + "]\n");
-        }
-        output.write("}\n");
-    }
-
-private:
-    void printService(std::string_view service, Output& output) const
-    {
-        std::string nodes;
-        for (auto const* resource : m_nodes) {
-            if (resource->service == service) {
-                nodes += "    " + inQuotes(nameOf(resource)) + "\n";
-            }
-        }
-        if (!nodes.empty()) {
-            output.write("  subgraph " + inQuotes("cluster_" + std::string(service)) +
-                         " {\n    label=" + inQuotes(service) + "\n" + nodes + "  }\n");
+void printService(std::string_view service, std::set<Resource const*> const& nodes, Output& output)
+{
+    std::string lines;
+    for (auto const* resource : nodes) {
+        if (resource->service == service) {
+            lines += "    " + inQuotes(nameOf(resource)) + "\n";
         }
     }
+    if (!lines.empty()) {
+        output.write("  subgraph " + inQuotes("cluster_" + std::string(service)) +
+                     " {\n    label=" + inQuotes(service) + "\n" + lines + "  }\n");
+    }
+}
 
-    std::set<Resource const*> m_nodes;
-    std::map<Ends, std::string> m_edges;
-};
+void printGraph(std::set<Resource const*> const& nodes, Links const& links, Output& output)
+{
+    output.write("digraph kiv {\n"
+                 "  rankdir=LR\n"
+                 "  node [shape=box, fontname=\"Helvetica\", fontsize=11]\n"
+                 "  edge [fontname=\"Helvetica\", fontsize=9]\n");
+    for (auto const service : services()) {
+        printService(service, nodes, output);
+    }
+    for (auto const& [ends, fields] : links) {
+        output.write("  " + inQuotes(nameOf(ends.first)) + " -> " + inQuotes(nameOf(ends.second)) +
+                     " [label=" + inQuotes(labelOf(fields)) + "]\n");
+    }
+    output.write("}\n");
+}
 
 class GraphCommand : public Command {
 public:
@@ -98,22 +86,12 @@ public:
 
     Exit run(Console& console) override
     {
-        Graph graph;
-        std::set<Resource const*> const wanted = selected();
-        for (auto const* resource : wanted) {
-            graph.add(*resource);
+        std::set<Resource const*> nodes = selected();
+        Links const links = linksOf(nodes);
+        for (auto const& [ends, fields] : links) {
+            nodes.insert({ends.first, ends.second});
         }
-        for (auto const& holder : catalogue::resources()) {
-            for (auto const& field : holder.fields) {
-                for (auto const* held : field.targets) {
-                    bool const isAsked = wanted.contains(&holder) || wanted.contains(held);
-                    if (held != nullptr && isAsked) {
-                        graph.add(holder, *held, field);
-                    }
-                }
-            }
-        }
-        graph.print(console.output);
+        printGraph(nodes, links, console.output);
         return Exit::Clean;
     }
 

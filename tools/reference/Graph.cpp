@@ -1,9 +1,9 @@
 #include "tools/reference/Graph.h"
 
+#include "Links.h"
 #include "Lookup.h"
 
 #include <algorithm>
-#include <map>
 #include <set>
 #include <stdexcept>
 #include <vector>
@@ -31,32 +31,6 @@ std::string quoted(std::string_view text)
     return result + '"';
 }
 
-/// The fields by which one resource holds another.
-struct Link {
-    std::vector<std::string> keys;
-    bool onlyPolymorphic = true;
-};
-
-/// Resources compare by their place in the catalogue, so that the picture is always the same.
-using Ends = std::pair<Resource const*, Resource const*>;
-using Links = std::map<Ends, Link>;
-
-void addLinks(Resource const& holder, std::string_view service, Links& links)
-{
-    for (Field const& field : holder.fields) {
-        for (Resource const* const target : field.targets) {
-            bool const concerns =
-                target != nullptr && (holder.service == service || target->service == service);
-            if (!concerns) {
-                continue;
-            }
-            Link& link = links[{&holder, target}];
-            link.keys.push_back(std::string(field.key) + (isList(field.kind) ? "[]" : ""));
-            link.onlyPolymorphic = link.onlyPolymorphic && field.kind == Kind::Polymorphic;
-        }
-    }
-}
-
 std::string nodeText(Resource const& resource, std::string_view service)
 {
     std::string const name = kiv::nameOf(&resource);
@@ -68,25 +42,31 @@ std::string nodeText(Resource const& resource, std::string_view service)
            ", class=" + (isOutside ? "outside" : "inside") + "];\n";
 }
 
-std::string edgeText(Ends const& ends, Link const& link, std::string_view service)
+std::string edgeText(kiv::Ends const& ends, std::vector<Field const*> const& fields,
+                     std::string_view service)
 {
     std::string label;
     std::string all;
-    for (std::size_t place = 0; place < link.keys.size(); ++place) {
-        all += (place > 0 ? ", " : "") + link.keys[place];
+    for (std::size_t place = 0; place < fields.size(); ++place) {
+        std::string const key =
+            std::string(fields[place]->key) + (isList(fields[place]->kind) ? "[]" : "");
+        all += (place > 0 ? ", " : "") + key;
         if (place < keysShown) {
-            label += (place > 0 ? "\n" : "") + link.keys[place];
+            label += (place > 0 ? "\n" : "") + key;
         }
     }
-    if (link.keys.size() > keysShown) {
-        label += "\n+ " + std::to_string(link.keys.size() - keysShown);
+    if (fields.size() > keysShown) {
+        label += "\n+ " + std::to_string(fields.size() - keysShown);
     }
+    bool const isPolymorphic = std::all_of(fields.begin(), fields.end(), [](Field const* field) {
+        return field->kind == Kind::Polymorphic;
+    });
     std::string const from = kiv::nameOf(ends.first);
     std::string const to = kiv::nameOf(ends.second);
     return "  " + quoted(from) + " -> " + quoted(to) + " [label=" + quoted(label) +
            ", edgetooltip=" + quoted(all) + ", labeltooltip=" + quoted(all) +
            ", id=" + quoted("graph/" + std::string(service) + "/" + from + "-" + to) +
-           (link.onlyPolymorphic ? ", class=maybe, style=dashed" : "") + "];\n";
+           (isPolymorphic ? ", class=maybe, style=dashed" : "") + "];\n";
 }
 
 /// What ` name="…"` says first, or nothing.
@@ -115,18 +95,16 @@ void dropAttribute(std::string& text, std::string const& name)
 
 std::string graphOf(std::string_view service)
 {
-    Links links;
-    for (Resource const& resource : kiv::catalogue::resources()) {
-        addLinks(resource, service, links);
-    }
+    auto const members = kiv::resourcesOf(service);
+    kiv::Links const links = kiv::linksOf({members.begin(), members.end()});
     if (links.empty()) {
         return {};
     }
     std::set<Resource const*> nodes;
     std::string edges;
-    for (auto const& [ends, link] : links) {
+    for (auto const& [ends, fields] : links) {
         nodes.insert({ends.first, ends.second});
-        edges += edgeText(ends, link, service);
+        edges += edgeText(ends, fields, service);
     }
     std::string text =
         "digraph " + quoted(service) + " {\n  id=" + quoted("graph/" + std::string(service)) + R"(
