@@ -1,12 +1,14 @@
 #include "tests/fuzz/Require.h"
-#include "tests/fuzz/Tree.h"
 #include "tests/model/Agreement.h"
+#include "tests/model/RandomTree.h"
 #include "tests/model/Tree.h"
 
 #include "frame/IResourceBase.h"
+#include "values/values.h"
 
 #include <cstdint>
 #include <memory>
+#include <span>
 
 /// Bytes as a tree of values into one of the resources, and all its forms out.
 namespace {
@@ -14,6 +16,23 @@ namespace {
 using fuzz::require;
 using zel::dataformats::data::Value;
 using zel::kiv::catalogue::Resource;
+
+/// Draws decisions from the bytes, as many of them as a decision takes. When they run out every
+/// decision is the last one, by which trees come to an end.
+model::RandomTree::Source decisionsOf(std::span<std::uint8_t const> bytes)
+{
+    return [bytes](std::uint64_t most) mutable {
+        std::uint64_t number = 0;
+        for (std::uint64_t rest = most; rest > 0; rest >>= 8U) {
+            if (bytes.empty()) {
+                return most;
+            }
+            number = number << 8U | bytes.front();
+            bytes = bytes.subspan(1);
+        }
+        return number > most ? number % (most + 1) : number;
+    };
+}
 
 std::unique_ptr<Value> throughResource(Resource const& resource, Value const* value)
 {
@@ -32,10 +51,10 @@ void requireSame(model::Tree const& expected, Value const* got, char const* what
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size)
 {
-    fuzz::Bytes bytes({data, size});
+    auto decide = decisionsOf({data, size});
     auto const all = zel::kiv::catalogue::resources();
-    Resource const& resource = all[bytes.below(all.size())];
-    auto const tree = fuzz::treeFor(resource, bytes);
+    Resource const& resource = all[decide(all.size() - 1)];
+    auto const tree = model::RandomTree(decide).forResource(resource);
     auto const before = model::treeOf(tree.get());
 
     auto const disagreement = model::disagreement(resource, tree.get());

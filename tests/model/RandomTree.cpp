@@ -7,6 +7,7 @@
 #include <array>
 #include <bit>
 #include <limits>
+#include <random>
 #include <utility>
 
 namespace model {
@@ -20,9 +21,11 @@ using catalogue::Kind;
 
 } // namespace
 
-std::size_t RandomTree::below(std::size_t count)
+RandomTree::RandomTree(std::uint64_t seed)
+    : RandomTree([engine = std::mt19937_64(seed)](std::uint64_t most) mutable {
+          return most == engine.max() ? engine() : engine() % (most + 1);
+      })
 {
-    return m_engine() % count;
 }
 
 std::string RandomTree::pick(std::initializer_list<char const*> texts)
@@ -45,7 +48,7 @@ int RandomTree::number()
     if (place < known.size()) {
         return known.at(place);
     }
-    auto const bits = static_cast<std::uint32_t>(m_engine());
+    auto const bits = static_cast<std::uint32_t>(m_source(~0U));
     return static_cast<int>(bits >> below(32));
 }
 
@@ -66,7 +69,7 @@ double RandomTree::real()
                                -Limits::infinity(),
                                Limits::quiet_NaN()};
     std::size_t const place = below(known.size() + 3);
-    return place < known.size() ? known.at(place) : std::bit_cast<double>(m_engine());
+    return place < known.size() ? known.at(place) : std::bit_cast<double>(m_source(~0UL));
 }
 
 std::string RandomTree::text()
@@ -83,9 +86,20 @@ std::string RandomTree::text()
         return pick({"x", "yy"}).append(16 + below(300), 'x');
     case 4:
         return uri(nullptr);
+    case 5:
+        return bytes();
     default:
         return "text" + std::to_string(below(1000));
     }
+}
+
+std::string RandomTree::bytes()
+{
+    std::string text(below(20), '\0');
+    for (char& each : text) {
+        each = static_cast<char>(below(256));
+    }
+    return text;
 }
 
 std::string RandomTree::uri(Resource const* resource)
@@ -98,43 +112,30 @@ std::string RandomTree::uri(Resource const* resource)
     std::string const service(oneIn(8) ? other.service : resource->service);
     std::string const name(oneIn(8) ? other.resourceKey : resource->resourceKey);
     std::string const id = std::to_string(below(100));
+    std::string const place = '/' + service + '/' + name;
     if (!oneIn(3)) {
-        return '/' + service + '/' + name + '/' + id;
+        return place + '/' + id;
     }
-    switch (below(16)) {
-    case 0:
-        return '/' + service;
-    case 1:
-        return '/' + service + '/' + name;
-    case 2:
-        return '/' + service + '/' + name + '/';
-    case 3:
-        return '/' + service + '/' + name + '/' + id + '/' + id;
-    case 4:
-        return '/' + service + '/' + name + "//" + id;
-    case 5:
-        return '/' + service + "//" + name + '/' + id;
-    case 6:
-        return "//" + service + '/' + name + '/' + id;
-    case 7:
-        return service + '/' + name + '/' + id;
-    case 8:
-        return 'x' + service + '/' + name + '/' + id;
-    case 9:
-        return '/' + service + '/' + name + "x/" + id;
-    case 10:
-        return '/' + service + '/' + name.substr(0, name.size() - 1) + '/' + id;
-    case 11:
-        return '/' + service + '/' + std::string(resource->name) + '/' + id;
-    case 12:
-        return '/' + service + '/' + std::string(resource->elementKey) + '/' + id;
-    case 13:
-        return "/nobody/" + name + '/' + id;
-    case 14:
-        return '/' + service + '/' + name + '/' + std::string(below(200), 'i');
-    default:
-        return pick({"", "/", "//", "///", "a", "a/", "a/b", "a/b/", "/a", "/a/", "/a//"});
-    }
+    std::string const shorter = place.substr(0, place.size() - 1);
+    std::array const shapes{
+        '/' + service,
+        place,
+        place + '/',
+        place + '/' + id + '/' + id,
+        place + "//" + id,
+        '/' + service + "//" + name + '/' + id,
+        '/' + place + '/' + id,
+        place.substr(1) + '/' + id,
+        'x' + place.substr(1) + '/' + id,
+        place + "x/" + id,
+        shorter + '/' + id,
+        '/' + service + '/' + std::string(resource->name) + '/' + id,
+        '/' + service + '/' + std::string(resource->elementKey) + '/' + id,
+        "/nobody/" + name + '/' + id,
+        place + '/' + std::string(below(200), 'i'),
+        pick({"", "/", "//", "///", "a", "a/", "a/b", "a/b/", "/a", "/a/", "/a//"}),
+    };
+    return shapes.at(below(shapes.size()));
 }
 
 std::string RandomTree::unknownKey(Resource const* resource)
@@ -143,7 +144,7 @@ std::string RandomTree::unknownKey(Resource const* resource)
     if (resource != nullptr) {
         key = resource->fields[below(resource->fields.size())].key;
     }
-    switch (below(5)) {
+    switch (below(6)) {
     case 0:
         return key.substr(0, below(key.size()));
     case 1:
@@ -154,6 +155,8 @@ std::string RandomTree::unknownKey(Resource const* resource)
     case 3:
         key.back() = static_cast<char>(key.back() + 1);
         return key;
+    case 4:
+        return '~' + bytes();
     default:
         return pick({"speed", "ID", "Uri", "zzz", "_", "0", "\xc3\xa4"});
     }
@@ -318,20 +321,12 @@ std::unique_ptr<data::Value> RandomTree::forResource(Resource const& resource)
     }
     auto array = std::make_unique<data::Array>();
     for (std::size_t left = below(4); left > 0; --left) {
-        array->pushNew(forElement(resource).release());
+        if (isSpent()) {
+            restart();
+        }
+        array->pushNew((oneIn(16) ? anything(3) : objectOf(&resource)).release());
     }
     return array;
-}
-
-std::unique_ptr<data::Value> RandomTree::forElement(Resource const& resource)
-{
-    if (isSpent()) {
-        restart();
-    }
-    if (oneIn(16)) {
-        return anything(3);
-    }
-    return objectOf(&resource);
 }
 
 } // namespace model

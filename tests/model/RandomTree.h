@@ -3,10 +3,11 @@
 #include "catalogue/Catalogue.h"
 
 #include <cstdint>
+#include <functional>
 #include <initializer_list>
 #include <memory>
-#include <random>
 #include <string>
+#include <utility>
 
 namespace zel::dataformats::data {
 class Array;
@@ -21,30 +22,28 @@ namespace model {
 /// leaves out the one thing that a caller may never do: what stands under `uri` in an object under
 /// a polymorphic field is text here, or there is no `uri`.
 ///
-/// The same seed gives the same trees, on every machine.
+/// The same seed gives the same trees, on every machine; other sources than chance will do too.
 class RandomTree {
 public:
     using Value = zel::dataformats::data::Value;
     using Resource = zel::kiv::catalogue::Resource;
     using Field = zel::kiv::catalogue::Field;
 
-    explicit RandomTree(std::uint64_t seed) : m_engine(seed) {}
+    /// Gives a number from 0 to `most`, for every decision there is to take.
+    using Source = std::function<std::uint64_t(std::uint64_t most)>;
+
+    explicit RandomTree(Source source) : m_source(std::move(source)) {}
+    explicit RandomTree(std::uint64_t seed);
 
     /// What a resource could be given, mostly an array. Never null.
     std::unique_ptr<Value> forResource(Resource const& resource);
-
-    /// What an element of that resource could be given, mostly an object; may be null.
-    std::unique_ptr<Value> forElement(Resource const& resource);
-
-    /// Any value at all, of that depth at most; may be null.
-    std::unique_ptr<Value> anything(int depth);
 
 private:
     using Object = zel::dataformats::data::Object;
     using Array = zel::dataformats::data::Array;
 
     /// A number below `count`, which is not 0.
-    std::size_t below(std::size_t count);
+    std::size_t below(std::size_t count) { return m_source(count - 1); }
     /// True in one of `count` cases.
     bool oneIn(std::size_t count) { return below(count) == 0; }
     std::string pick(std::initializer_list<char const*> texts);
@@ -56,10 +55,13 @@ private:
     int number();
     double real();
     std::string text();
+    std::string bytes();
     /// A uri in which the service and the resource are mostly those of `resource`, if not null.
     std::string uri(Resource const* resource);
     std::string unknownKey(Resource const* resource);
 
+    /// Any value at all, of that depth at most; may be null.
+    std::unique_ptr<Value> anything(int depth);
     std::unique_ptr<Value> forField(Field const& field);
     std::unique_ptr<Value> forList(Field const& field);
     std::unique_ptr<Value> forEntry(Field const& field);
@@ -69,7 +71,7 @@ private:
     std::unique_ptr<Object> anyObject(int depth);
     std::unique_ptr<Array> anyArray(int depth);
 
-    std::mt19937_64 m_engine;
+    Source m_source;
     int m_left = 0; ///< how many more values the tree may get, roughly
 };
 

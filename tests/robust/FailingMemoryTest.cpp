@@ -1,10 +1,11 @@
-#include "tests/robust/Samples.h"
+#include "tests/model/Samples.h"
 #include "tests/unit/platform/Allocations.h"
 
 #include "frame/IObjectBase.h"
 #include "frame/IResourceBase.h"
 #include "services/guidance/DrivingContexts.h"
 #include "services/radio/Presets.h"
+#include "values/values.h"
 
 #include <gtest/gtest.h>
 
@@ -16,33 +17,32 @@
 /// Makes every single allocation fail in turn, and looks what is left.
 namespace {
 
-using namespace zel::dataformats::data;
+using namespace samples;
 using namespace zel::kiv::common;
-using samples::Resource;
 using zel::kiv::catalogue::resources;
 
-std::string nameOf(Resource const& resource)
+/// Two elements, with objects and with uris in them, a text and a null.
+Tree listOf(Resource const& resource)
 {
-    return std::string(resource.service) + "::" + std::string(resource.name);
+    return {Tree::List{sampleOf(&resource, 0, 1),
+                       withUris(resource, sampleOf(&resource, 1, 1)),
+                       {std::string("a text that is too long to be kept in place")},
+                       {Tree::Nothing{}}}};
 }
 
-bool hasAllKeysOf(Value const& whole, Value const& part)
+bool hasAllKeysOf(Tree const& whole, Tree const& part)
 {
-    auto const& map = static_cast<Object const&>(whole).get();
-    for (auto const& entry : static_cast<Object const&>(part).get()) {
-        if (map.find(entry.first) == map.end()) {
-            return false;
-        }
-    }
-    return true;
+    auto const& map = std::get<Tree::Map>(whole.content);
+    return std::ranges::includes(map, std::get<Tree::Map>(part.content), {}, &Tree::Member::key,
+                                 &Tree::Member::key);
 }
 
-bool beginsWith(Value& whole, Value& part)
+bool beginsWith(Tree whole, Tree const& part)
 {
-    auto const& entries = static_cast<Array&>(whole).get();
-    auto const& first = static_cast<Array&>(part).get();
-    return entries.size() >= first.size() &&
-           std::equal(first.begin(), first.end(), entries.begin(), samples::same);
+    auto& list = std::get<Tree::List>(whole.content);
+    std::size_t const size = std::get<Tree::List>(part.content).size();
+    list.resize(std::min(list.size(), size));
+    return model::difference(part, whole).empty();
 }
 
 TEST(FailingMemory, LeavesResourcesAsTheyWereOrLonger)
@@ -50,23 +50,23 @@ TEST(FailingMemory, LeavesResourcesAsTheyWereOrLonger)
     std::size_t total = 0;
     for (Resource const& resource : resources()) {
         SCOPED_TRACE(nameOf(resource));
-        auto const input = samples::arrayOf(resource);
+        auto const input = model::valueOf(listOf(resource));
         auto const makeFilled = [&] {
             auto filled = resource.makeResource();
             filled->deserialize(input.get());
             return filled;
         };
-        auto const form = makeFilled()->serialize();
+        Tree const form = model::treeOf(makeFilled()->serialize().get());
         std::size_t const alive = allocations::alive();
         auto target = makeFilled();
-        std::size_t const failures =
-            allocations::failEach([&] { target->deserialize(input.get()); },
-                                  [&] {
-                                      ASSERT_TRUE(beginsWith(*target->serialize(), *form));
-                                      target.reset();
-                                      ASSERT_EQ(allocations::alive(), alive);
-                                      target = makeFilled();
-                                  });
+        std::size_t const failures = allocations::failEach(
+            [&] { target->deserialize(input.get()); },
+            [&] {
+                ASSERT_TRUE(beginsWith(model::treeOf(target->serialize().get()), form));
+                target.reset();
+                ASSERT_EQ(allocations::alive(), alive);
+                target = makeFilled();
+            });
         EXPECT_GT(failures, resource.fields.size());
         EXPECT_EQ(target->getNumberOfElements(), 8U);
         target.reset();
@@ -80,25 +80,19 @@ TEST(FailingMemory, KeepsWhatElementsHadBefore)
 {
     for (Resource const& resource : resources()) {
         SCOPED_TRACE(nameOf(resource));
-        auto const plain = samples::objectOf(resource, samples::Fields::Plain);
-        auto const all = samples::objectOf(resource, samples::Fields::All);
-        auto const form = [&] {
-            auto const element = resource.makeElement();
-            element->deserialize(plain.get());
-            return element->serialize(SerializationType::Full);
-        }();
+        Tree const plain = sampleOf(&resource, 0, 0);
+        Tree const form = sampleOf(&resource, 0, 1);
+        auto const all = model::valueOf(form);
         std::size_t const alive = allocations::alive();
-        auto target = resource.makeElement();
-        target->deserialize(plain.get());
+        auto target = elementFrom(resource, plain);
         auto const check = [&] {
-            ASSERT_TRUE(hasAllKeysOf(*target->serialize(SerializationType::Full), *form));
+            ASSERT_TRUE(hasAllKeysOf(fullOf(*target), plain));
             target.reset();
             ASSERT_EQ(allocations::alive(), alive);
-            target = resource.makeElement();
-            target->deserialize(plain.get());
+            target = elementFrom(resource, plain);
         };
         EXPECT_GT(allocations::failEach([&] { target->deserialize(all.get()); }, check), 0U);
-        EXPECT_TRUE(hasAllKeysOf(*target->serialize(SerializationType::Full), *all));
+        EXPECT_TRUE(hasAllKeysOf(fullOf(*target), form));
         target.reset();
         EXPECT_EQ(allocations::alive(), alive);
     }
@@ -108,12 +102,10 @@ TEST(FailingMemory, LeavesNoHalfOfAForm)
 {
     for (Resource const& resource : resources()) {
         SCOPED_TRACE(nameOf(resource));
-        auto const input = samples::arrayOf(resource);
         auto const target = resource.makeResource();
-        target->deserialize(input.get());
-        auto const element = resource.makeElement();
-        element->deserialize(static_cast<Array&>(*input).get()[0]);
-        auto const form = target->serialize();
+        target->deserialize(model::valueOf(listOf(resource)).get());
+        auto const element = elementFrom(resource, sampleOf(&resource, 0, 1));
+        Tree const form = model::treeOf(target->serialize().get());
         std::size_t const alive = allocations::alive();
         auto const check = [&] { ASSERT_EQ(allocations::alive(), alive); };
         std::size_t const failures =
@@ -125,7 +117,7 @@ TEST(FailingMemory, LeavesNoHalfOfAForm)
                 allocations::failEach([&] { static_cast<void>(element->serialize(type)); }, check),
                 0U);
         }
-        EXPECT_TRUE(samples::same(target->serialize().get(), form.get()));
+        EXPECT_EQ(model::difference(form, model::treeOf(target->serialize().get())), "");
     }
 }
 

@@ -1,8 +1,9 @@
-#include "tests/robust/Samples.h"
+#include "tests/model/Samples.h"
 
 #include "frame/ElementStatus.h"
 #include "frame/IObjectBase.h"
 #include "frame/IResourceBase.h"
+#include "values/values.h"
 
 #include <gtest/gtest.h>
 
@@ -16,8 +17,9 @@
 /// sanitizer watches it in a build of its own.
 namespace {
 
-using namespace zel::dataformats::data;
+using namespace samples;
 using namespace zel::kiv::common;
+using zel::dataformats::data::Value;
 using zel::kiv::catalogue::resources;
 
 constexpr int threadCount = 8;
@@ -41,20 +43,19 @@ void inEightThreads(Work work)
 
 TEST(Threads, ShareTheirInput)
 {
-    std::vector<std::unique_ptr<Array>> inputs;
-    std::vector<std::unique_ptr<Value>> forms;
-    for (auto const& resource : resources()) {
-        inputs.push_back(samples::arrayOf(resource));
-        auto const target = resource.makeResource();
-        target->deserialize(inputs.back().get());
-        forms.push_back(target->serialize());
+    std::vector<Tree> forms;
+    std::vector<std::unique_ptr<Value>> inputs;
+    for (Resource const& resource : resources()) {
+        forms.push_back({Tree::List{sampleOf(&resource, 0, 1), sampleOf(&resource, 1, 1)}});
+        inputs.push_back(model::valueOf(forms.back()));
     }
     std::atomic<std::size_t> right = 0;
     inEightThreads([&] {
         for (std::size_t index = 0; index < inputs.size(); ++index) {
             auto const target = resources()[index].makeResource();
             target->deserialize(inputs[index].get());
-            right += samples::same(target->serialize().get(), forms[index].get()) ? 1 : 0;
+            auto const form = model::treeOf(target->serialize().get());
+            right += model::difference(forms[index], form).empty() ? 1 : 0;
         }
     });
     EXPECT_EQ(right, threadCount * inputs.size());
@@ -63,13 +64,12 @@ TEST(Threads, ShareTheirInput)
 TEST(Threads, ShareWhatNobodyWrites)
 {
     auto const& resource = *zel::kiv::catalogue::find("radio", "presets");
-    auto const target = resource.makeElement();
-    target->deserialize(samples::objectOf(resource, samples::Fields::All).get());
-    auto const form = target->serialize(SerializationType::Full);
+    Tree const form = sampleOf(&resource, 0, 1);
+    auto const target = elementFrom(resource, form);
     std::atomic<int> right = 0;
     inEightThreads([&] {
         for (int round = 0; round < 200; ++round) {
-            right += samples::same(target->serialize(SerializationType::Full).get(), form.get());
+            right += model::difference(form, fullOf(*target)).empty() ? 1 : 0;
         }
     });
     EXPECT_EQ(right, threadCount * 200);

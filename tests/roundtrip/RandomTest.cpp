@@ -1,6 +1,6 @@
 #include "tests/model/Agreement.h"
 #include "tests/model/RandomTree.h"
-#include "tests/roundtrip/Samples.h"
+#include "tests/model/Samples.h"
 
 #include "values/values.h"
 
@@ -12,8 +12,9 @@
 
 /// Library against model on random trees. `ZEL_KIV_SEED` and `ZEL_KIV_TREES` in the environment set
 /// the first seed and the number of trees for each resource.
-namespace roundtrip {
 namespace {
+
+using namespace samples;
 
 #ifdef NDEBUG
 constexpr std::uint64_t treesEach = 2000;
@@ -60,4 +61,3 @@ INSTANTIATE_TEST_SUITE_P(Of, RandomTrees, testing::ValuesIn(services()),
                          [](auto const& service) { return service.param; });
 
 } // namespace
-} // namespace roundtrip

@@ -3,8 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <fstream>
 #include <set>
+#include <sstream>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -39,6 +43,29 @@ TEST(Interface, hasAllItsServicesResourcesAndFields)
     std::array<std::size_t, catalogue::kindWords.size()> const expected{1023, 116, 67, 87, 41, 5,
                                                                         195,  84,  36, 1,  14};
     EXPECT_EQ(ofKind, expected);
+}
+
+/// No call shows the texts that the visitors note, so they are looked for in the library's file.
+TEST(Texts, areAllInTheLibrary)
+{
+    std::ifstream stream(ZEL_KIV_LIBRARY, std::ios::binary);
+    std::stringstream content;
+    content << stream.rdbuf();
+    std::string const file = content.str();
+    std::vector<std::string> texts{"Element must contain object data! Data is 'Array'\n",
+                                   "Resource must contain array data! Data is 'Object'\n"};
+    for (char const* const type : {"NULL", "Boolean ", "Integer", "Float", "String", "Blob"}) {
+        texts.push_back(std::string("Element must contain object data! Data is '") + type + "'\n");
+        texts.push_back(std::string("Resource must contain object data! Data is '") + type + "'\n");
+    }
+    // The text of a step that never runs, one for each resource.
+    for (auto const& resource : catalogue::resources()) {
+        texts.push_back("Error while deserializing array into '" + std::string(resource.name) +
+                        "::" + std::string(resource.element) + "'-object!\n");
+    }
+    for (std::string const& text : texts) {
+        EXPECT_NE(file.find(text + '\0'), std::string::npos) << text;
+    }
 }
 
 } // namespace

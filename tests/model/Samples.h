@@ -10,7 +10,7 @@
 
 /// Good input for every resource, with what must come out of it, and a way to send it through. What
 /// must come out is told here without the model.
-namespace roundtrip {
+namespace samples {
 
 using model::Tree;
 using zel::kiv::catalogue::Field;
@@ -20,9 +20,13 @@ using zel::kiv::catalogue::Resource;
 /// polymorphic field that has most, and at least one.
 std::size_t variantsOf(Resource const& resource);
 
+/// A value for the field, which lets a variant choose the target of a polymorphic one. Nested
+/// elements lie in it `depth` deep, which is at least one for a field that holds them.
+Tree fieldSample(Field const& field, std::size_t variant, int depth);
+
 /// An element with all its fields, nested ones as objects; those `depth` levels down have no nested
-/// ones themselves. A null resource stands for an external reference. Lists have two entries, and
-/// all texts and numbers are different.
+/// ones themselves. A null resource stands for an external reference. Lists have two entries,
+/// and all texts and numbers are different; texts take memory of their own.
 Tree sampleOf(Resource const* resource, std::size_t variant, int depth);
 
 /// The same element with its nested objects as their uris.
@@ -46,4 +50,4 @@ Tree referenceOf(zel::kiv::common::IObjectBase const& element);
 /// The resource's name, for messages: `radio/presets`.
 std::string nameOf(Resource const& resource);
 
-} // namespace roundtrip
+} // namespace samples

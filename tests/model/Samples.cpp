@@ -1,11 +1,11 @@
-#include "tests/roundtrip/Samples.h"
+#include "tests/model/Samples.h"
 
 #include "frame/IObjectBase.h"
 #include "values/values.h"
 
 #include <algorithm>
 
-namespace roundtrip {
+namespace samples {
 
 namespace {
 
@@ -27,7 +27,7 @@ int numberFor(Field const& field, std::size_t place)
 
 std::string textFor(Field const& field, std::size_t place)
 {
-    return std::string(field.key) + " text " + std::to_string(place);
+    return std::string(field.key) + " text too long to be kept in place " + std::to_string(place);
 }
 
 Resource const* targetOf(Field const& field, std::size_t variant)
@@ -58,15 +58,6 @@ Tree entrySample(Field const& field, std::size_t place, std::size_t variant, int
     default:
         return sampleOf(targetOf(field, variant), variant + place, depth - 1);
     }
-}
-
-Tree fieldSample(Field const& field, std::size_t variant, int depth)
-{
-    if (!catalogue::isList(field.kind)) {
-        return entrySample(field, 0, variant, depth);
-    }
-    return {
-        Tree::List{entrySample(field, 1, variant, depth), entrySample(field, 2, variant, depth)}};
 }
 
 /// The element with each nested element in another form.
@@ -104,6 +95,15 @@ std::size_t variantsOf(Resource const& resource)
         most = std::max(most, field.targets.size());
     }
     return most;
+}
+
+Tree fieldSample(Field const& field, std::size_t variant, int depth)
+{
+    if (!catalogue::isList(field.kind)) {
+        return entrySample(field, 0, variant, depth);
+    }
+    return {
+        Tree::List{entrySample(field, 1, variant, depth), entrySample(field, 2, variant, depth)}};
 }
 
 Tree sampleOf(Resource const* resource, std::size_t variant, int depth)
@@ -169,4 +169,4 @@ std::string nameOf(Resource const& resource)
     return std::string(resource.service) + '/' + std::string(resource.resourceKey);
 }
 
-} // namespace roundtrip
+} // namespace samples
