@@ -1,4 +1,5 @@
 #include "tests/accessors/Fields.h"
+#include "tests/model/Samples.h"
 #include "tests/unit/platform/Allocations.h"
 
 #include "catalogue/Catalogue.h"
@@ -39,7 +40,7 @@ void expectAlone(ElementFields const& element, IObjectBase const& object, Field 
         EXPECT_EQ(difference(isIt ? held(field, numbers) : each->unset(), each->get(object)), "")
             << each->key;
     }
-    EXPECT_EQ(difference({Tree::Map{memberFor(field, numbers)}}, fullOf(&object)), "");
+    EXPECT_EQ(difference({Tree::Map{memberFor(field, numbers)}}, samples::fullOf(object)), "");
 }
 
 template <typename Check>
@@ -85,33 +86,22 @@ TEST(Accessors, workBesideEachOther)
             EXPECT_TRUE(field->isSet(*object)) << field->key;
             EXPECT_EQ(difference(held(*field, {++number}), field->get(*object)), "") << field->key;
         }
-        EXPECT_EQ(difference({expected}, fullOf(object.get())), "");
+        EXPECT_EQ(difference({expected}, samples::fullOf(*object)), "");
     });
 }
 
-TEST(Accessors, leaveNothingBehind)
+/// Every target of a polymorphic field, one after the other and back again.
+TEST(Accessors, setAnyClassThatTheFieldMayHoldAndLeaveNothingBehind)
 {
     forEachElement([](ElementFields const& element) {
         for (auto const& field : element.fields) {
             std::size_t const before = allocations::alive();
             auto object = element.make();
-            field->put(*object, 1);
-            field->put(*object, 2);
-            object.reset();
-            EXPECT_EQ(allocations::alive(), before) << field->key;
-        }
-    });
-}
-
-/// Every target of a polymorphic field, one after the other and back again.
-TEST(Accessors, setAnyClassThatTheFieldMayHold)
-{
-    forEachElement([](ElementFields const& element) {
-        for (auto const& field : element.fields) {
-            auto const object = element.make();
             for (int const number : {0, 1, 2, 3, 4, 5, 0}) {
                 EXPECT_TRUE(field->put(*object, number)) << field->key;
             }
+            object.reset();
+            EXPECT_EQ(allocations::alive(), before) << field->key;
         }
     });
 }

@@ -21,58 +21,108 @@ namespace accessors {
 using model::Tree;
 using zel::kiv::common::IObjectBase;
 
-/// The value form of an element, in full; `Nothing` for null.
-Tree fullOf(IObjectBase const* element);
-
 /// One field of an element class.
 class Field {
 public:
-    explicit Field(std::string_view ofKey) : key(ofKey) {}
+    Field(std::string_view ofKey, bool ofList) : key(ofKey), isList(ofList) {}
     virtual ~Field() = default;
     Field(Field const&) = delete;
     Field& operator=(Field const&) = delete;
 
-    /// Whether its presence accessors say that it is set. A polymorphic field must say so by the
-    /// one that belongs to the class of what it holds, and by no other.
+    /// Whether a presence accessor of it says that it is set.
     virtual bool isSet(IObjectBase const& owner) const = 0;
     /// What its getter gives, in the value form.
     virtual Tree get(IObjectBase const& owner) const = 0;
     /// Sets it to the sample of that number, or adds that. Frees an element that is replaced. False
-    /// if the getter then gives another element.
+    /// if the getter then gives another element, or the presence accessors another class.
     virtual bool put(IObjectBase& owner, int number) const = 0;
     /// What the sample of that number is in the value form; what an unset field is.
     virtual Tree sample(int number) const = 0;
     virtual Tree unset() const = 0;
 
     std::string_view key;
-    bool isList = false;
+    bool isList;
 };
 
 using Presence = bool (IObjectBase::*)() const;
 
-/// A member function whose type was put aside; only one of its own type may be called through it.
-using Erased = void (IObjectBase::*)();
-
 /// The name that a sample element of that number has.
 std::string sampleName(int number);
 
+/// A field of a plain kind: `Got` is what the getter gives, `Given` what the setter takes.
+template <typename Got, typename Given>
+class PlainField : public Field {
+public:
+    using Get = Got (IObjectBase::*)() const;
+    using Set = void (IObjectBase::*)(Given);
+    using Single = std::remove_cvref_t<Given>;
+    using Stored = std::remove_cvref_t<Got>;
+
+    PlainField(std::string_view ofKey, Get getter, Set set, Presence presence)
+        : Field(ofKey, !std::is_same_v<Single, Stored>), m_get(getter), m_set(set),
+          m_presence(presence)
+    {
+    }
+
+    bool isSet(IObjectBase const& owner) const override { return (owner.*m_presence)(); }
+    Tree get(IObjectBase const& owner) const override { return treeOf((owner.*m_get)()); }
+    bool put(IObjectBase& owner, int number) const override
+    {
+        (owner.*m_set)(single(number));
+        return true;
+    }
+    Tree sample(int number) const override { return {single(number)}; }
+    Tree unset() const override { return treeOf(Stored()); }
+
+private:
+    static Single single(int number)
+    {
+        if constexpr (std::is_same_v<Single, std::string>) {
+            return sampleName(number);
+        } else if constexpr (std::is_same_v<Single, double>) {
+            return number + 0.25;
+        } else {
+            return static_cast<Single>(number);
+        }
+    }
+
+    static Tree treeOf(Stored const& stored)
+    {
+        if constexpr (std::is_same_v<Single, Stored>) {
+            return {stored};
+        } else {
+            Tree::List list;
+            for (Single const& entry : stored) {
+                list.push_back({entry});
+            }
+            return {list};
+        }
+    }
+
+    Get m_get;
+    Set m_set;
+    Presence m_presence;
+};
+
+/// A member function whose type was put aside; only one of its own type may be called through it.
+using Erased = void (IObjectBase::*)();
+
 // What differs between the classes of nested elements.
 
+/// What a getter gives, which for a single element may be null.
+using Held = std::vector<IObjectBase*> (*)(IObjectBase const& owner, Erased get);
+
 template <typename T>
-IObjectBase* held(IObjectBase const& owner, Erased get)
+std::vector<IObjectBase*> held(IObjectBase const& owner, Erased get)
 {
-    return (owner.*reinterpret_cast<T* (IObjectBase::*)() const>(get))();
+    return {(owner.*reinterpret_cast<T* (IObjectBase::*)() const>(get))()};
 }
 
 template <typename T>
 std::vector<IObjectBase*> allHeld(IObjectBase const& owner, Erased get)
 {
-    std::vector<IObjectBase*> all;
-    for (T* const each :
-         (owner.*reinterpret_cast<std::vector<T*> (IObjectBase::*)() const>(get))()) {
-        all.push_back(each);
-    }
-    return all;
+    auto const all = (owner.*reinterpret_cast<std::vector<T*> (IObjectBase::*)() const>(get))();
+    return {all.begin(), all.end()};
 }
 
 /// Gives a new sample to the setter or adder.
@@ -99,31 +149,9 @@ Target target(void (E::*accept)(std::unique_ptr<T>), bool (E::*presence)() const
     return {&give<T>, reinterpret_cast<Erased>(accept), static_cast<Presence>(presence)};
 }
 
-std::unique_ptr<Field> listField(std::string_view key,
-                                 std::vector<IObjectBase*> (*held)(IObjectBase const&, Erased),
-                                 Erased get, Target const& target);
-
-/// An element field, which has one target, or a polymorphic one.
-std::unique_ptr<Field> elementField(std::string_view key,
-                                    IObjectBase* (*held)(IObjectBase const&, Erased), Erased get,
-                                    std::vector<Target> targets);
-
-// The plain kinds.
-std::unique_ptr<Field> plainField(std::string_view key,
-                                  std::string const& (IObjectBase::*get)() const,
-                                  void (IObjectBase::*set)(std::string const&), Presence presence);
-std::unique_ptr<Field> plainField(std::string_view key, int (IObjectBase::*get)() const,
-                                  void (IObjectBase::*set)(int), Presence presence);
-std::unique_ptr<Field> plainField(std::string_view key, double (IObjectBase::*get)() const,
-                                  void (IObjectBase::*set)(double), Presence presence);
-std::unique_ptr<Field> plainField(std::string_view key, bool (IObjectBase::*get)() const,
-                                  void (IObjectBase::*set)(bool), Presence presence);
-std::unique_ptr<Field> plainField(std::string_view key,
-                                  std::vector<std::string> (IObjectBase::*get)() const,
-                                  void (IObjectBase::*add)(std::string const&), Presence presence);
-std::unique_ptr<Field> plainField(std::string_view key,
-                                  std::vector<int> (IObjectBase::*get)() const,
-                                  void (IObjectBase::*add)(int), Presence presence);
+/// A field of elements of one class, or of several that take turns by the number of the sample.
+std::unique_ptr<Field> nestedField(std::string_view key, bool isList, Held held, Erased get,
+                                   std::vector<Target> targets);
 
 /// The fields of one element class, and how to make an element. Each operation takes the accessors
 /// of a field of one kind; what has another type than it says does not compile.
@@ -134,84 +162,38 @@ struct ElementFields {
     char const* (*faultOfResource)();
     std::vector<std::unique_ptr<Field>> fields;
 
-    template <typename E>
-    void text(std::string_view key, std::string const& (E::*get)() const,
-              void (E::*set)(std::string const&), bool (E::*presence)() const)
+    template <typename Got, typename Given, typename E>
+    void plain(std::string_view key, Got (E::*get)() const, void (E::*set)(Given),
+               bool (E::*presence)() const)
     {
-        fields.push_back(plainField(key,
-                                    static_cast<std::string const& (IObjectBase::*)() const>(get),
-                                    static_cast<void (IObjectBase::*)(std::string const&)>(set),
-                                    static_cast<Presence>(presence)));
-    }
-
-    template <typename E>
-    void integer(std::string_view key, int (E::*get)() const, void (E::*set)(int),
-                 bool (E::*presence)() const)
-    {
-        fields.push_back(plainField(key, static_cast<int (IObjectBase::*)() const>(get),
-                                    static_cast<void (IObjectBase::*)(int)>(set),
-                                    static_cast<Presence>(presence)));
-    }
-
-    template <typename E>
-    void real(std::string_view key, double (E::*get)() const, void (E::*set)(double),
-              bool (E::*presence)() const)
-    {
-        fields.push_back(plainField(key, static_cast<double (IObjectBase::*)() const>(get),
-                                    static_cast<void (IObjectBase::*)(double)>(set),
-                                    static_cast<Presence>(presence)));
-    }
-
-    template <typename E>
-    void flag(std::string_view key, bool (E::*get)() const, void (E::*set)(bool),
-              bool (E::*presence)() const)
-    {
-        fields.push_back(plainField(key, static_cast<bool (IObjectBase::*)() const>(get),
-                                    static_cast<void (IObjectBase::*)(bool)>(set),
-                                    static_cast<Presence>(presence)));
-    }
-
-    template <typename E>
-    void texts(std::string_view key, std::vector<std::string> (E::*get)() const,
-               void (E::*add)(std::string const&), bool (E::*presence)() const)
-    {
-        fields.push_back(
-            plainField(key, static_cast<std::vector<std::string> (IObjectBase::*)() const>(get),
-                       static_cast<void (IObjectBase::*)(std::string const&)>(add),
-                       static_cast<Presence>(presence)));
-    }
-
-    template <typename E>
-    void integers(std::string_view key, std::vector<int> (E::*get)() const, void (E::*add)(int),
-                  bool (E::*presence)() const)
-    {
-        fields.push_back(plainField(
-            key, static_cast<std::vector<int> (IObjectBase::*)() const>(get),
-            static_cast<void (IObjectBase::*)(int)>(add), static_cast<Presence>(presence)));
+        using Kept = PlainField<Got, Given>;
+        fields.push_back(std::make_unique<Kept>(key, static_cast<typename Kept::Get>(get),
+                                                static_cast<typename Kept::Set>(set),
+                                                static_cast<Presence>(presence)));
     }
 
     template <typename T, typename E>
     void element(std::string_view key, T* (E::*get)() const, void (E::*set)(std::unique_ptr<T>),
                  bool (E::*presence)() const)
     {
-        fields.push_back(
-            elementField(key, &held<T>, reinterpret_cast<Erased>(get), {target<T>(set, presence)}));
+        fields.push_back(nestedField(key, false, &held<T>, reinterpret_cast<Erased>(get),
+                                     {target<T>(set, presence)}));
     }
 
     template <typename T, typename E>
     void elements(std::string_view key, std::vector<T*> (E::*get)() const,
                   void (E::*add)(std::unique_ptr<T>), bool (E::*presence)() const)
     {
-        fields.push_back(
-            listField(key, &allHeld<T>, reinterpret_cast<Erased>(get), target<T>(add, presence)));
+        fields.push_back(nestedField(key, true, &allHeld<T>, reinterpret_cast<Erased>(get),
+                                     {target<T>(add, presence)}));
     }
 
     template <typename E>
     void polymorphic(std::string_view key, IObjectBase* (E::*get)() const,
                      std::vector<Target> targets)
     {
-        fields.push_back(elementField(key, &held<IObjectBase>, reinterpret_cast<Erased>(get),
-                                      std::move(targets)));
+        fields.push_back(nestedField(key, false, &held<IObjectBase>, reinterpret_cast<Erased>(get),
+                                     std::move(targets)));
     }
 };
 

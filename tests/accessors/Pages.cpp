@@ -36,22 +36,22 @@ std::string classOf(Resource const* resource)
            "::" + std::string(resource->element);
 }
 
-/// The operation of `ElementFields` that takes the accessors of that kind.
+/// The operation of `ElementFields` that takes the accessors of that kind, with their types.
 std::string operationOf(Field const& field)
 {
     switch (field.kind) {
     case Kind::String:
-        return "text";
+        return "plain<std::string const&, std::string const&>";
     case Kind::Int:
-        return "integer";
+        return "plain<int, int>";
     case Kind::Double:
-        return "real";
+        return "plain<double, double>";
     case Kind::Bool:
-        return "flag";
+        return "plain<bool, bool>";
     case Kind::StringList:
-        return "texts";
+        return "plain<std::vector<std::string>, std::string const&>";
     case Kind::IntList:
-        return "integers";
+        return "plain<std::vector<int>, int>";
     case Kind::Element:
     case Kind::External:
         return "element<" + classOf(field.targets.front()) + ">";

@@ -31,112 +31,29 @@ Value* cloneOf(Value const* value)
 
 Value::~Value() = default;
 
-char const* Null::typeName() const
-{
-    return "Null";
-}
-
 void Null::dispatch(ConstVisitor& visitor) const
 {
     visitor.visitNull();
 }
 
-std::int32_t Null::getType() const
-{
-    return ValueType::Null;
-}
-
-Value* Null::clone() const
-{
-    return new Null;
-}
-
-Boolean::Boolean(bool value) : m_value(value) {}
-
-char const* Boolean::typeName() const
-{
-    return "Boolean";
-}
-
 void Boolean::dispatch(ConstVisitor& visitor) const
 {
-    visitor.visitBoolean(m_value);
-}
-
-std::int32_t Boolean::getType() const
-{
-    return ValueType::Boolean;
-}
-
-Value* Boolean::clone() const
-{
-    return new Boolean(m_value);
-}
-
-Integer::Integer(int value) : m_value(value) {}
-
-char const* Integer::typeName() const
-{
-    return "Integer";
+    visitor.visitBoolean(get());
 }
 
 void Integer::dispatch(ConstVisitor& visitor) const
 {
-    visitor.visitInteger(m_value);
-}
-
-std::int32_t Integer::getType() const
-{
-    return ValueType::Integer;
-}
-
-Value* Integer::clone() const
-{
-    return new Integer(m_value);
-}
-
-Float::Float(double value) : m_value(value) {}
-
-char const* Float::typeName() const
-{
-    return "Float";
+    visitor.visitInteger(get());
 }
 
 void Float::dispatch(ConstVisitor& visitor) const
 {
-    visitor.visitFloat(m_value);
-}
-
-std::int32_t Float::getType() const
-{
-    return ValueType::Float;
-}
-
-Value* Float::clone() const
-{
-    return new Float(m_value);
-}
-
-String::String(std::string const& text) : m_text(text) {}
-
-char const* String::typeName() const
-{
-    return "String";
+    visitor.visitFloat(get());
 }
 
 void String::dispatch(ConstVisitor& visitor) const
 {
-    visitor.visitString(viewOf(m_text));
-}
-
-std::int32_t String::getType() const
-{
-    return ValueType::String;
-}
-
-Value* String::clone() const
-{
-    return new String(m_text);
+    visitor.visitString(viewOf(get()));
 }
 
 Blob::Blob(zel::common::types::BufferDescriptor<char const> bytes)
@@ -144,24 +61,9 @@ Blob::Blob(zel::common::types::BufferDescriptor<char const> bytes)
 {
 }
 
-char const* Blob::typeName() const
-{
-    return "Blob";
-}
-
 void Blob::dispatch(ConstVisitor& visitor) const
 {
     visitor.visitBlob(viewOf(m_bytes));
-}
-
-std::int32_t Blob::getType() const
-{
-    return ValueType::Blob;
-}
-
-Value* Blob::clone() const
-{
-    return new Blob(viewOf(m_bytes));
 }
 
 Array::~Array()
@@ -171,19 +73,9 @@ Array::~Array()
     }
 }
 
-char const* Array::typeName() const
-{
-    return "Array";
-}
-
 void Array::dispatch(ConstVisitor& visitor) const
 {
     visitor.visitArray(m_entries);
-}
-
-std::int32_t Array::getType() const
-{
-    return ValueType::Array;
 }
 
 Value* Array::clone() const
@@ -207,19 +99,9 @@ Object::~Object()
     }
 }
 
-char const* Object::typeName() const
-{
-    return "Object";
-}
-
 void Object::dispatch(ConstVisitor& visitor) const
 {
     visitor.visitObject(m_entries);
-}
-
-std::int32_t Object::getType() const
-{
-    return ValueType::Object;
 }
 
 Value* Object::clone() const

@@ -12,6 +12,7 @@ constexpr std::size_t never = std::numeric_limits<std::size_t>::max();
 std::atomic<std::size_t> madeCount = 0;
 std::atomic<std::size_t> deletedCount = 0;
 std::atomic<std::size_t> failing = never;
+std::atomic<std::size_t> nextSize = never;
 
 } // namespace
 
@@ -23,6 +24,16 @@ std::size_t made()
 std::size_t alive()
 {
     return madeCount - deletedCount;
+}
+
+void awaitNext()
+{
+    nextSize = 0;
+}
+
+std::size_t sizeOfNext()
+{
+    return nextSize.exchange(never);
 }
 
 void failAfter(std::size_t successes)
@@ -41,6 +52,8 @@ void* operator new(std::size_t size)
 {
     using namespace allocations;
     std::size_t due = madeCount;
+    std::size_t awaited = 0;
+    nextSize.compare_exchange_strong(awaited, size);
     if (failing.compare_exchange_strong(due, never)) {
         throw std::bad_alloc{};
     }

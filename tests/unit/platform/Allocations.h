@@ -13,6 +13,10 @@ std::size_t made();
 /// How much of it is not deleted yet.
 std::size_t alive();
 
+/// The size that was asked for in the first call of `new` since `awaitNext`; 0 if there was none.
+void awaitNext();
+std::size_t sizeOfNext();
+
 /// Lets the next `successes` calls of `new` through and makes the one after them fail, once.
 void failAfter(std::size_t successes);
 

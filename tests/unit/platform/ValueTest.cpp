@@ -81,15 +81,11 @@ std::unique_ptr<Value> makeTree()
 std::string const printedTree = "{flag:yes fraction:0.500000 list:[null null <a\0b> [] ] none:null "
                                 "number:-3 object:{} text:\"long enough to need memory\0!\" }"s;
 
-TEST(Value, ShowsEachTypeToAVisitor)
-{
-    EXPECT_EQ(print(makeTree().get()), printedTree);
-    EXPECT_EQ(print(nullptr), "null");
-}
-
-TEST(Value, ClonesDeeply)
+TEST(Value, ShowsEachTypeToAVisitorAndIsClonedDeeply)
 {
     std::unique_ptr<Value> tree = makeTree();
+    EXPECT_EQ(print(tree.get()), printedTree);
+    EXPECT_EQ(print(nullptr), "null");
     std::unique_ptr<Value> const copy{tree->clone()};
     tree.reset();
     EXPECT_EQ(print(copy.get()), printedTree);
@@ -97,26 +93,20 @@ TEST(Value, ClonesDeeply)
 
 TEST(Value, SaysItsType)
 {
-    struct Case {
-        std::unique_ptr<Value> value;
-        std::int32_t type;
-        std::string name;
+    auto const expectType = [](Value const& value, std::int32_t type, std::string const& name) {
+        std::unique_ptr<Value> const copy{value.clone()};
+        EXPECT_EQ(value.getType(), type) << name;
+        EXPECT_EQ(value.typeName(), name);
+        EXPECT_EQ(copy->getType(), type) << name;
     };
-    std::vector<Case> cases;
-    cases.push_back({std::make_unique<Null>(), ValueType::Null, "Null"});
-    cases.push_back({std::make_unique<Boolean>(false), ValueType::Boolean, "Boolean"});
-    cases.push_back({std::make_unique<Integer>(0), ValueType::Integer, "Integer"});
-    cases.push_back({std::make_unique<Float>(0), ValueType::Float, "Float"});
-    cases.push_back({std::make_unique<Blob>(BufferDescriptor<char const>{}), 4, "Blob"});
-    cases.push_back({std::make_unique<String>(""), 5, "String"});
-    cases.push_back({std::make_unique<Array>(), 7, "Array"});
-    cases.push_back({std::make_unique<Object>(), 8, "Object"});
-    for (Case const& one : cases) {
-        std::unique_ptr<Value> const copy{one.value->clone()};
-        EXPECT_EQ(one.value->getType(), one.type) << one.name;
-        EXPECT_EQ(one.value->typeName(), one.name);
-        EXPECT_EQ(copy->getType(), one.type) << one.name;
-    }
+    expectType(Null(), 0, "Null");
+    expectType(Boolean(false), 1, "Boolean");
+    expectType(Integer(0), 2, "Integer");
+    expectType(Float(0), 3, "Float");
+    expectType(Blob(BufferDescriptor<char const>{}), 4, "Blob");
+    expectType(String(""), 5, "String");
+    expectType(Array(), 7, "Array");
+    expectType(Object(), 8, "Object");
 }
 
 TEST(Array, KeepsItsEntriesInOrder)

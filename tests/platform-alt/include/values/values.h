@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 // Another implementation of what the library takes from its platform, made to differ from the
@@ -59,84 +60,74 @@ public:
     virtual Value* clone() const = 0;
 };
 
-class Null : public Value {
+/// What the types of values have in common.
+template <typename Self, std::int32_t code>
+class Typed : public Value {
 public:
-    char const* typeName() const override;
-    void dispatch(ConstVisitor& visitor) const override;
-    std::int32_t getType() const override;
-    Value* clone() const override;
+    char const* typeName() const override { return Self::name; }
+    std::int32_t getType() const override { return code; }
+    Value* clone() const override { return new Self(static_cast<Self const&>(*this)); }
 };
 
-class Boolean : public Value {
+template <typename Self, std::int32_t code, typename Plain>
+class Holder : public Typed<Self, code> {
 public:
-    Boolean(bool value);
-    char const* typeName() const override;
-    void dispatch(ConstVisitor& visitor) const override;
-    std::int32_t getType() const override;
-    Value* clone() const override;
-    bool get() const { return m_value; }
+    Holder(Plain value) : m_value(std::move(value)) {}
+    Plain const& get() const { return m_value; }
 
 private:
-    bool m_value;
+    Plain m_value;
 };
 
-class Integer : public Value {
+class Null : public Typed<Null, ValueType::Null> {
 public:
-    Integer(int value);
-    char const* typeName() const override;
+    static constexpr char const* name = "Null";
     void dispatch(ConstVisitor& visitor) const override;
-    std::int32_t getType() const override;
-    Value* clone() const override;
-    int get() const { return m_value; }
-
-private:
-    int m_value;
 };
 
-class Float : public Value {
+class Boolean : public Holder<Boolean, ValueType::Boolean, bool> {
 public:
-    Float(double value);
-    char const* typeName() const override;
+    static constexpr char const* name = "Boolean";
+    using Holder::Holder;
     void dispatch(ConstVisitor& visitor) const override;
-    std::int32_t getType() const override;
-    Value* clone() const override;
-    double get() const { return m_value; }
-
-private:
-    double m_value;
 };
 
-class String : public Value {
+class Integer : public Holder<Integer, ValueType::Integer, int> {
 public:
-    String(std::string const& text);
-    char const* typeName() const override;
+    static constexpr char const* name = "Integer";
+    using Holder::Holder;
     void dispatch(ConstVisitor& visitor) const override;
-    std::int32_t getType() const override;
-    Value* clone() const override;
-    std::string const& get() const { return m_text; }
-
-private:
-    std::string m_text;
 };
 
-class Blob : public Value {
+class Float : public Holder<Float, ValueType::Float, double> {
 public:
+    static constexpr char const* name = "Float";
+    using Holder::Holder;
+    void dispatch(ConstVisitor& visitor) const override;
+};
+
+class String : public Holder<String, ValueType::String, std::string> {
+public:
+    static constexpr char const* name = "String";
+    using Holder::Holder;
+    void dispatch(ConstVisitor& visitor) const override;
+};
+
+class Blob : public Typed<Blob, ValueType::Blob> {
+public:
+    static constexpr char const* name = "Blob";
     Blob(zel::common::types::BufferDescriptor<char const> bytes);
-    char const* typeName() const override;
     void dispatch(ConstVisitor& visitor) const override;
-    std::int32_t getType() const override;
-    Value* clone() const override;
 
 private:
     std::string m_bytes;
 };
 
-class Array : public Value {
+class Array : public Typed<Array, ValueType::Array> {
 public:
+    static constexpr char const* name = "Array";
     ~Array() override;
-    char const* typeName() const override;
     void dispatch(ConstVisitor& visitor) const override;
-    std::int32_t getType() const override;
     Value* clone() const override;
     void pushNew(Value* value);
     zel::common::types::PtrVector<Value>& get() { return m_entries; }
@@ -145,12 +136,11 @@ private:
     zel::common::types::PtrVector<Value> m_entries;
 };
 
-class Object : public Value {
+class Object : public Typed<Object, ValueType::Object> {
 public:
+    static constexpr char const* name = "Object";
     ~Object() override;
-    char const* typeName() const override;
     void dispatch(ConstVisitor& visitor) const override;
-    std::int32_t getType() const override;
     Value* clone() const override;
 
     /// Throws for a key that is there already.

@@ -1,0 +1,174 @@
+#include "tests/model/Samples.h"
+#include "tests/unit/platform/Allocations.h"
+
+#include "frame/ElementStatus.h"
+#include "frame/ExternalResourceObject.h"
+#include "services/door/DoorSettings.h"
+#include "services/radio/Presets.h"
+#include "services/radio/Stations.h"
+#include "values/values.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+/// What a client may call or rely on and no round trip shows.
+namespace {
+
+using namespace zel::kiv::common;
+using namespace zel::dataformats::data;
+using model::Tree;
+using Map = Tree::Map;
+using Setting = door::DoorSettings::DoorSettingObject;
+using Control = door::SwitchControls::SwitchControlObject;
+using Preset = radio::Presets::PresetObject;
+using Station = radio::Stations::StationObject;
+
+Tree const nothing{Tree::Nothing{}};
+
+Tree text(std::string const& content)
+{
+    return {content};
+}
+
+std::string full(IObjectBase const& element)
+{
+    return model::describe(samples::fullOf(element));
+}
+
+/// What `normalizeObject` says, whether it points elsewhere, and what it left in the object.
+std::string normalized(Tree const& given)
+{
+    auto const value = model::valueOf(given);
+    Object temporary;
+    Object* object = &temporary;
+    std::string const result = IObjectBase::normalizeObject(*value, object) ? "true" : "false";
+    EXPECT_TRUE(object == value.get() || object == &temporary);
+    EXPECT_EQ(model::difference(given, model::treeOf(value.get())), "") << "it was changed";
+    return result + (object == value.get() ? " the value, " : " the temporary, ") +
+           model::describe(model::treeOf(&temporary));
+}
+
+TEST(NormalizeObject, takesTextForAUriAnObjectAsItIsAndNothingElse)
+{
+    EXPECT_EQ(normalized(text("/radio/stations/7")),
+              R"(true the temporary, {"id":"7","uri":"/radio/stations/7"})");
+    EXPECT_EQ(normalized(text("/radio/stations")),
+              R"(true the temporary, {"uri":"/radio/stations"})");
+    EXPECT_EQ(normalized(text("")), R"(true the temporary, {"uri":""})");
+    EXPECT_EQ(normalized({Map{{"uri", text("/radio/stations/7")}}}), "true the value, {}");
+    for (Tree const& other : {Tree{7}, Tree{1.5}, Tree{true}, Tree{Tree::Other{"Null"}},
+                              Tree{Tree::List{text("/radio/stations/7")}}}) {
+        EXPECT_EQ(normalized(other), "false the temporary, {}");
+    }
+}
+
+TEST(ServiceAndResource, isWhatStandsBeforeTheSecondSlash)
+{
+    std::map<std::string, std::string> const cases{
+        {"/radio/stations/7", "radio/stations"},
+        {"/radio/stations/", "radio/stations"},
+        {"/radio/stations/7/8", "radio/stations"},
+        {"radio/stations/7", "adio/stations"}, // the first character does not count, slash or not
+        {"/radio/stations", ""},
+        {"/", ""},
+        {"", ""},
+        {"//", ""},
+        {"///", "/"},
+        {"//radio/stations", "/radio"},
+        {"/a//7", "a/"},
+    };
+    for (auto const& [uri, expected] : cases) {
+        Object object;
+        EXPECT_EQ(IObjectBase::getServiceAndResourceString(object), "");
+        object.setNew("uri", new String(uri));
+        EXPECT_EQ(IObjectBase::getServiceAndResourceString(object), expected) << uri;
+    }
+}
+
+TEST(ExternalResource, readsItsThreeFieldsOfObjectsOnly)
+{
+    ExternalResourceObject object;
+    for (Tree const& given :
+         {Tree{Map{{"id", text("1")}, {"name", {7}}, {"other", {1}}, {"uri", nothing}}},
+          text("/a/b/2"), Tree{Tree::List{text("x")}}, Tree{7}, nothing}) {
+        EXPECT_TRUE(object.deserialize(model::valueOf(given).get()));
+        EXPECT_EQ(full(object), R"({"id":"1","name":"7"})");
+    }
+    EXPECT_EQ(model::describe(samples::referenceOf(object)), R"("")");
+    object.setUri("/a/b/1");
+    EXPECT_EQ(model::describe(samples::referenceOf(object)), R"("/a/b/1")");
+}
+
+/// Whoever replaces an element holds on to the old one: the setter does not free it.
+TEST(Ownership, aReplacedElementStaysAliveAndIsNobodys)
+{
+    std::size_t const before = allocations::alive();
+    {
+        Setting setting;
+        setting.setDoorOpening(std::make_unique<Control>());
+        std::unique_ptr<Control> const first(setting.getDoorOpening());
+        first->setName("the first");
+        setting.setDoorOpening(std::make_unique<Control>());
+        EXPECT_NE(setting.getDoorOpening(), first.get());
+        EXPECT_EQ(first->getName(), "the first");
+
+        std::unique_ptr<Control> const second(setting.getDoorOpening());
+        setting.deserialize(model::valueOf({Map{{"doorOpening", {7}}}}).get());
+        EXPECT_NE(setting.getDoorOpening(), second.get());
+
+        Preset preset;
+        preset.setStation(std::make_unique<Station>());
+        std::unique_ptr<IObjectBase> const station(preset.getStation());
+        preset.setStation(std::make_unique<ExternalResourceObject>());
+        EXPECT_EQ(full(*station), "{}");
+        // A value that selects nothing replaces nothing.
+        preset.deserialize(model::valueOf({Map{{"station", text("/radio/stations")}}}).get());
+        EXPECT_TRUE(preset.isExternalResourceObjectStationSet());
+    }
+    EXPECT_EQ(allocations::alive(), before);
+}
+
+TEST(Ownership, nullIsSetLikeAnElement)
+{
+    Setting setting;
+    setting.setDoorOpening(nullptr);
+    EXPECT_TRUE(setting.isDoorOpeningSet());
+    EXPECT_EQ(setting.getDoorOpening(), nullptr);
+    Station station;
+    station.addBands(nullptr);
+    EXPECT_TRUE(station.isBandsSet());
+    EXPECT_EQ(station.getBands().size(), 1U);
+    Preset preset;
+    preset.setStation(std::unique_ptr<Station>());
+    EXPECT_TRUE(preset.isRadioStationsStationObjectStationSet());
+    radio::Presets presets;
+    presets.addObject(nullptr);
+    EXPECT_EQ(presets.getNumberOfElements(), 1U);
+}
+
+/// Read while this file is initialised: the tables must be complete before any client's code runs.
+std::string const earlyText = ELEMENTSTATUSANDSTRINGMAP.at(ElementStatus::Ongoing);
+
+TEST(ElementStatus, tablesLeadToEachOther)
+{
+    EXPECT_EQ(earlyText, "ongoing");
+    std::vector<std::string> const texts{
+        "created",           "serviceReady",         "pending", "ongoing", "clientReady",
+        "serviceSuccessful", "serviceNotSuccessful", "failed"};
+    EXPECT_EQ(ELEMENTSTATUSANDSTRINGMAP.size(), texts.size());
+    EXPECT_EQ(STRINGANDELEMENTSTATUSMAP.size(), texts.size());
+    int number = 0;
+    for (std::string const& each : texts) {
+        auto const status = static_cast<ElementStatus>(number++);
+        EXPECT_EQ(ELEMENTSTATUSANDSTRINGMAP.at(status), each);
+        EXPECT_EQ(STRINGANDELEMENTSTATUSMAP.at(each), status);
+    }
+    // The numbers are part of the interface, the names lead to them.
+    EXPECT_EQ(static_cast<int>(ElementStatus::ClientReady), 4);
+    EXPECT_EQ(static_cast<int>(ElementStatus::ServiceNotSuccessful), 6);
+}
+
+} // namespace
