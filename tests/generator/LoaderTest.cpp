@@ -1,30 +1,15 @@
 #include "generator/model/Loader.h"
-
-#include <gtest/gtest.h>
+#include "Folder.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <sstream>
-#include <string>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
 
+namespace generator_test {
 namespace {
 
-namespace fs = std::filesystem;
-
 fs::path const dataFolder{KIVGEN_TEST_DATA};
-
-std::string textOf(fs::path const& path)
-{
-    std::ifstream file{path};
-    EXPECT_TRUE(file) << path;
-    return {std::istreambuf_iterator<char>{file}, {}};
-}
 
 std::string messagesOf(fs::path const& services)
 {
@@ -33,25 +18,6 @@ std::string messagesOf(fs::path const& services)
         messages += toMessage(fault) + "\n";
     }
     return messages;
-}
-
-std::string describe(kivgen::Interface const& interface)
-{
-    std::ostringstream text;
-    for (auto const& resource : interface.resources) {
-        text << resource.service << "::" << resource.name << ' ' << resource.element << ' '
-             << resource.resourceKey << ' ' << resource.elementKey << '\n';
-        for (auto const& field : resource.fields) {
-            text << "  " << field.key << ' ' << zel::kiv::catalogue::wordOf(field.kind);
-            for (auto const& target : field.targets) {
-                text << ' '
-                     << (target.isExternal() ? "external"
-                                             : target.service + "::" + target.resource);
-            }
-            text << '\n';
-        }
-    }
-    return text.str();
 }
 
 // Each folder of `faults` is a case: definitions, and the messages that they must give.
@@ -77,33 +43,16 @@ TEST_P(Faults, AreToldByTheirMessages)
 INSTANTIATE_TEST_SUITE_P(Loader, Faults, testing::ValuesIn(casesOf(dataFolder / "faults")),
                          [](auto const& one) { return one.param; });
 
-TEST(Loader, ReadsEveryKind)
-{
-    auto const loaded = kivgen::load(dataFolder / "good" / "services");
-    EXPECT_TRUE(loaded.faults.empty()) << toMessage(loaded.faults.front());
-    EXPECT_EQ(describe(loaded.interface), textOf(dataFolder / "good" / "interface.txt"));
-
-    auto const* const presets = loaded.interface.find("radio", "Presets");
-    ASSERT_NE(presets, nullptr);
-    EXPECT_EQ(presets->about, "A preset place, at 20 °C.");
-    EXPECT_EQ(presets->fields.front().place.line, 8U);
-    EXPECT_EQ(loaded.interface.find("radio", "Clocks"), nullptr);
-}
-
 /// States of a file system that a repository cannot hold.
-class LoaderOnDisk : public testing::Test {
+class LoaderOnDisk : public InFolder {
 protected:
     void SetUp() override
     {
-        auto name = (fs::temp_directory_path() / "kivgen-XXXXXX").string();
-        ASSERT_NE(mkdtemp(name.data()), nullptr);
-        folder_ = name;
+        InFolder::SetUp();
         fs::create_directories(services() / "radio");
     }
 
-    void TearDown() override { fs::remove_all(folder_); }
-
-    [[nodiscard]] fs::path services() const { return folder_ / "services"; }
+    [[nodiscard]] fs::path services() const { return folder() / "services"; }
 
     void write(std::string const& name, std::string const& text) const
     {
@@ -116,9 +65,6 @@ protected:
     }
 
     [[nodiscard]] std::string messages() const { return messagesOf(services()); }
-
-private:
-    fs::path folder_;
 };
 
 TEST_F(LoaderOnDisk, MissesDefinitions)
@@ -232,3 +178,4 @@ TEST_F(LoaderOnDisk, BearsSizeAndDepth)
 }
 
 } // namespace
+} // namespace generator_test

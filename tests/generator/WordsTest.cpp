@@ -1,9 +1,10 @@
 #include "catalogue/Suggestion.h"
-#include "generator/Naming.h"
+#include "generator/Printer.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,40 +39,22 @@ TEST(Suggestion, PutsTheClosestFirst)
     EXPECT_EQ(didYouMean("volume", known), "");
 }
 
-TEST(Naming, FollowsKeysLetterForLetter)
+TEST(Printer, StopsAtASlotThatNothingFills)
 {
-    using namespace kivgen;
-    EXPECT_EQ(stemOf("zLevel"), "ZLevel");
-    EXPECT_EQ(stemOf("SPINhash"), "SPINhash");
-    EXPECT_EQ(lowered("PresetObject"), "presetObject");
-    EXPECT_EQ(getterName("delete"), "getDelete");
-    EXPECT_EQ(presenceName("station", {"radio", "Stations"}, "StationObject"),
-              "isRadioStationsStationObjectStationSet");
-    EXPECT_EQ(presenceName("station", {}, {}), "isExternalResourceObjectStationSet");
-    for (auto const* const word : {"alignas", "delete", "operator", "xor_eq"}) {
-        EXPECT_TRUE(isCppKeyword(word)) << word;
-    }
-    EXPECT_FALSE(isCppKeyword("time"));
+    EXPECT_EQ(kivgen::fill("$a$$b$", {{"a", "1"}, {"b", ""}}), "1\n");
+    EXPECT_THROW(kivgen::fill("$name$", {}), std::logic_error);
+    EXPECT_THROW(kivgen::fill("costs 5$", {{"name", ""}}), std::logic_error);
 }
 
-TEST(Naming, GivesTheAccessorsOfAKind)
+TEST(Printer, BreaksOnlyWhereTheLineIsFullAndNoWordInTwo)
 {
-    using namespace kivgen;
-    Interface const interface {
-        {
-            {
-                "radio", "Stations", "StationObject", "", "", "", {}, {}
-            }
-        }
-    };
-    auto const namesOf = [&](Kind kind, std::vector<Target> targets) {
-        return accessorNames({"logo", kind, std::move(targets), {}}, interface);
-    };
-    EXPECT_EQ(namesOf(Kind::Bool, {}), (Words{"getLogo", "setLogo", "isLogoSet"}));
-    EXPECT_EQ(namesOf(Kind::ExternalList, {{}}), (Words{"getLogo", "addLogo", "isLogoSet"}));
-    EXPECT_EQ(namesOf(Kind::Polymorphic, {{"radio", "Stations"}, {"radio", "Unknown"}, {}}),
-              (Words{"getLogo", "setLogo", "isRadioStationsStationObjectLogoSet",
-                     "isExternalResourceObjectLogoSet"}));
+    std::string const monster(120, 'y');
+    EXPECT_EQ(kivgen::comment(monster, 0), "/// " + monster + "\n");
+    // To the last column, and one beyond it.
+    std::string const rest(100 - 4 - 5 - 2, 'r');
+    EXPECT_EQ(kivgen::wrapped(4, "call(", {rest}, ",", ");"), "    call(" + rest + ");\n");
+    EXPECT_EQ(kivgen::wrapped(4, "call(", {rest + 'r'}, ",", ");"),
+              "    call(\n        " + rest + "r);\n");
 }
 
 } // namespace
