@@ -9,11 +9,13 @@ JOBS ?= $(shell nproc)
 help: ## show this list
 	@awk -F ':.*## ' '/^[a-z0-9]+:.*## / { printf "  make %-10s %s\n", $$1, $$2 }' Makefile
 
-build: ## build everything (build/release)
+build: ## build library and tools (build/release)
 	@scripts/install-packages build
-	@scripts/build release -j $(JOBS)
+	@scripts/build release -j $(JOBS) --target shipped
 
-demo: build ## build and run the main job on the bundled example
+demo: ## build and run the main job on the bundled example
+	@scripts/install-packages build
+	@scripts/build release -j $(JOBS) --target shipped presets
 	@echo
 	@echo "The input, examples/presets.json:"
 	@cat examples/presets.json
@@ -21,14 +23,15 @@ demo: build ## build and run the main job on the bundled example
 	@echo "What the typed accessors answer, and each element in full, shallow and as a reference:"
 	@build/release/examples/presets examples/presets.json
 
-test: build ## build and run all tests
-	@scripts/install-packages reference
+test: ## build everything and run all tests
+	@scripts/install-packages build reference
+	@scripts/build release -j $(JOBS)
 	ctest --preset release -j $(JOBS) --output-on-failure
 	@scripts/other-platform -j $(JOBS)
 
-lint: build ## check form and likely faults of code and definitions
-	@scripts/install-packages lint
-	@scripts/lint
+lint: ## check form and likely faults of code and definitions
+	@scripts/install-packages build lint
+	@scripts/lint -j $(JOBS)
 
 format: ## bring the code into form
 	@scripts/install-packages lint

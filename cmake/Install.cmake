@@ -3,6 +3,9 @@
 
 include(CMakePackageConfigHelpers)
 
+# Builds all of it.
+add_custom_target(shipped DEPENDS zel_kiv_services)
+
 set(include_root ${CMAKE_INSTALL_INCLUDEDIR}/zel-kiv)
 set(cmake_root ${CMAKE_INSTALL_LIBDIR}/cmake)
 
@@ -47,6 +50,7 @@ install(FILES ${PROJECT_BINARY_DIR}/cmake/zel-kiv-services.pc
     COMPONENT development)
 
 if(NOT ZEL_KIV_PLATFORM)
+    add_dependencies(shipped dataformats kivcommon)
     install(TARGETS values dataformats kivcommon
         EXPORT ZelKivPlatformTargets
         LIBRARY COMPONENT standins)
@@ -62,6 +66,7 @@ if(NOT ZEL_KIV_PLATFORM)
 endif()
 
 if(TARGET kiv)
+    add_dependencies(shipped kiv)
     file(RELATIVE_PATH libraries
         ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
     set_target_properties(kiv PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries}")
@@ -74,5 +79,6 @@ if(TARGET kiv)
         COMPONENT tools)
 endif()
 if(NOT ZEL_KIV_GENERATOR)
+    add_dependencies(shipped kivgen)
     install(TARGETS kivgen RUNTIME COMPONENT tools)
 endif()
