@@ -22,6 +22,17 @@ std::vector<std::string> readelf(std::string const& options, std::string const& 
 /// How many lines hold that text.
 std::size_t countOf(std::string const& text, std::vector<std::string> const& lines);
 
+/// The operations of a visitor as people write them, in the order of their slots.
+inline constexpr char const* visitOperations[] = {
+    "visitNull()",
+    "visitBoolean(bool)",
+    "visitInteger(int)",
+    "visitFloat(double)",
+    "visitString(zel::common::types::BufferDescriptor<char const>)",
+    "visitBlob(zel::common::types::BufferDescriptor<char const>)",
+    "visitArray(zel::common::types::PtrVector<zel::dataformats::data::Value> const&)",
+    "visitObject(zel::common::types::PtrMap<std::string, zel::dataformats::data::Value> const&)"};
+
 /// A symbol as people write it: without the root namespace, default template arguments and tags.
 /// Constructors and destructors end in their variant, `radio::Presets::~Presets() [D0]`.
 std::string readable(std::string const& symbol);

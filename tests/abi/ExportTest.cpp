@@ -86,13 +86,7 @@ void addFrame(Names& names)
 
     std::string const visitor = external + "Deserializer";
     addLife(names, visitor, visitor);
-    for (std::string const operation :
-         {"visitNull()", "visitBoolean(bool)", "visitInteger(int)", "visitFloat(double)",
-          "visitString(zel::common::types::BufferDescriptor<char const>)",
-          "visitBlob(zel::common::types::BufferDescriptor<char const>)",
-          "visitArray(zel::common::types::PtrVector<zel::dataformats::data::Value> const&)",
-          "visitObject(zel::common::types::PtrMap<std::string, zel::dataformats::data::Value> "
-          "const&)"}) {
+    for (std::string const operation : binary::visitOperations) {
         names.insert(visitor + "::" + operation);
     }
 }

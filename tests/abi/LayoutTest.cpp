@@ -66,9 +66,7 @@ std::size_t addStorage(Mirror& mirror, Kind kind)
     case Kind::Bool:
         return mirror.add<bool>();
     case Kind::StringList:
-        return mirror.add<std::vector<std::string>>();
     case Kind::IntList:
-        return mirror.add<std::vector<int>>();
     case Kind::ElementList:
     case Kind::ExternalList:
         return mirror.add<std::vector<void*>>();

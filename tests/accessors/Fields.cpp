@@ -9,11 +9,6 @@ namespace accessors {
 
 namespace {
 
-Tree fullOf(IObjectBase const* element)
-{
-    return element == nullptr ? Tree{Tree::Nothing{}} : samples::fullOf(*element);
-}
-
 class NestedField : public Field {
 public:
     NestedField(std::string_view ofKey, bool ofList, Held held, Erased getter,
@@ -32,7 +27,7 @@ public:
     {
         Tree::List list;
         for (IObjectBase const* const each : m_held(owner, m_get)) {
-            list.push_back(fullOf(each));
+            list.push_back(samples::fullOf(*each));
         }
         return isList ? Tree{list} : list.front();
     }
@@ -51,8 +46,6 @@ public:
     }
 
     Tree sample(int number) const override { return {Tree::Map{{"name", {sampleName(number)}}}}; }
-
-    Tree unset() const override { return isList ? Tree{Tree::List{}} : Tree{Tree::Nothing{}}; }
 
 private:
     Held m_held;

@@ -36,9 +36,8 @@ public:
     /// Sets it to the sample of that number, or adds that. Frees an element that is replaced. False
     /// if the getter then gives another element, or the presence accessors another class.
     virtual bool put(IObjectBase& owner, int number) const = 0;
-    /// What the sample of that number is in the value form; what an unset field is.
+    /// What the sample of that number is in the value form.
     virtual Tree sample(int number) const = 0;
-    virtual Tree unset() const = 0;
 
     std::string_view key;
     bool isList;
@@ -72,7 +71,6 @@ public:
         return true;
     }
     Tree sample(int number) const override { return {single(number)}; }
-    Tree unset() const override { return treeOf(Stored()); }
 
 private:
     static Single single(int number)

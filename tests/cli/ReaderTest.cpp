@@ -176,13 +176,6 @@ TEST(JsonReader, entriesComeBeforeTheFileIsRead)
     EXPECT_LT(mostAhead, 200000U);
 }
 
-TEST(JsonReader, onlyAnArrayHasEntries)
-{
-    for (char const* text : {"{\"a\":[1]}", "7", "null", "\"[1]\"", "[]"}) {
-        readEntries("f", textSource(text), [](Entry const&, Places const&) { FAIL(); });
-    }
-}
-
 TEST(JsonWriter, refusesWhatJsonCannotHold)
 {
     for (double const value :

@@ -56,6 +56,7 @@ protected:
 
     void write(std::string const& name, std::string const& text) const
     {
+        fs::create_directories((services() / name).parent_path());
         std::ofstream{services() / name, std::ios::binary} << text;
     }
 
@@ -74,6 +75,17 @@ TEST_F(LoaderOnDisk, MissesDefinitions)
     auto const nowhere = services() / "nowhere";
     EXPECT_EQ(messagesOf(nowhere), "nowhere: error: the folder '" + nowhere.string() +
                                        "' cannot be read: No such file or directory\n");
+}
+
+TEST_F(LoaderOnDisk, RefusesNamesThatCodeCannotHave)
+{
+    for (auto const* const name :
+         {"radio/presets", "radio/Two.Dots", "radio/PresetsDeserializer", "radio/IObjectBase",
+          "radio/Element", "radio/EOF", "namespace/Presets", "std/Presets", "Radio/Presets",
+          "1st/Presets"}) {
+        writeSound(std::string(name) + ".toml");
+    }
+    EXPECT_EQ(messages(), textOf(dataFolder / "names.txt"));
 }
 
 TEST_F(LoaderOnDisk, PassesOverWhatToolsLeave)

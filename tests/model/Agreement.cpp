@@ -85,18 +85,21 @@ std::string disagreement(Collection const& expected, common::IResourceBase const
 std::string disagreement(Element const& expected, common::IObjectBase const& got)
 {
     using Type = common::SerializationType;
-    Tree const full = expected.full();
-    std::string found = compared("full", full, got.serialize(Type::Full));
-    if (found.empty()) {
-        found = compared("shallow", expected.shallow(), got.serialize(Type::Shallow));
+    struct {
+        char const* what;
+        Tree expected;
+        Type type;
+    } const forms[] = {{"full", expected.full(), Type::Full},
+                       {"shallow", expected.shallow(), Type::Shallow},
+                       {"reference", expected.reference(), Type::Reference},
+                       {"of no known type", expected.full(), static_cast<Type>(3)}};
+    for (auto const& form : forms) {
+        std::string found = compared(form.what, form.expected, got.serialize(form.type));
+        if (!found.empty()) {
+            return found;
+        }
     }
-    if (found.empty()) {
-        found = compared("reference", expected.reference(), got.serialize(Type::Reference));
-    }
-    if (found.empty()) {
-        found = compared("of no known type", full, got.serialize(static_cast<Type>(3)));
-    }
-    return found;
+    return {};
 }
 
 std::string disagreement(Resource const& resource, data::Value const* value, int times)

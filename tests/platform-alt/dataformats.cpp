@@ -7,11 +7,6 @@ namespace zel::dataformats::data {
 
 namespace {
 
-zel::common::types::BufferDescriptor<char const> viewOf(std::string const& text)
-{
-    return {text.data(), static_cast<std::uint32_t>(text.size())};
-}
-
 template <typename Type>
 Type const& castTo(Value const* value)
 {
@@ -30,41 +25,6 @@ Value* cloneOf(Value const* value)
 } // namespace
 
 Value::~Value() = default;
-
-void Null::dispatch(ConstVisitor& visitor) const
-{
-    visitor.visitNull();
-}
-
-void Boolean::dispatch(ConstVisitor& visitor) const
-{
-    visitor.visitBoolean(get());
-}
-
-void Integer::dispatch(ConstVisitor& visitor) const
-{
-    visitor.visitInteger(get());
-}
-
-void Float::dispatch(ConstVisitor& visitor) const
-{
-    visitor.visitFloat(get());
-}
-
-void String::dispatch(ConstVisitor& visitor) const
-{
-    visitor.visitString(viewOf(get()));
-}
-
-Blob::Blob(zel::common::types::BufferDescriptor<char const> bytes)
-    : m_bytes(bytes.start, bytes.length)
-{
-}
-
-void Blob::dispatch(ConstVisitor& visitor) const
-{
-    visitor.visitBlob(viewOf(m_bytes));
-}
 
 Array::~Array()
 {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -37,7 +38,23 @@ public:
 
 namespace zel::dataformats::data {
 
-class ConstVisitor;
+class Value;
+
+class ConstVisitor {
+public:
+    virtual ~ConstVisitor();
+    virtual void visitNull() = 0;
+    virtual void visitBoolean(bool value) = 0;
+    virtual void visitInteger(int value) = 0;
+    virtual void visitFloat(double value) = 0;
+    virtual void visitString(zel::common::types::BufferDescriptor<char const> text) = 0;
+    virtual void visitBlob(zel::common::types::BufferDescriptor<char const> bytes) = 0;
+    virtual void visitArray(zel::common::types::PtrVector<Value> const& entries) = 0;
+    virtual void visitObject(zel::common::types::PtrMap<std::string, Value> const& entries) = 0;
+
+    /// Calls nothing for a null pointer.
+    int visit(Value const* value);
+};
 
 /// Codes that are not an enumeration and, but for the three promised ones, others.
 struct ValueType {
@@ -66,14 +83,22 @@ class Typed : public Value {
 public:
     char const* typeName() const override { return Self::name; }
     std::int32_t getType() const override { return code; }
-    Value* clone() const override { return new Self(static_cast<Self const&>(*this)); }
 };
 
-template <typename Self, std::int32_t code, typename Plain>
+template <typename Self, std::int32_t code, typename Plain, auto visitPlain>
 class Holder : public Typed<Self, code> {
 public:
     Holder(Plain value) : m_value(std::move(value)) {}
+    Value* clone() const override { return new Self(m_value); }
     Plain const& get() const { return m_value; }
+    void dispatch(ConstVisitor& visitor) const override
+    {
+        if constexpr (std::is_same_v<Plain, std::string>) {
+            (visitor.*visitPlain)({m_value.data(), static_cast<std::uint32_t>(m_value.size())});
+        } else {
+            (visitor.*visitPlain)(m_value);
+        }
+    }
 
 private:
     Plain m_value;
@@ -82,45 +107,42 @@ private:
 class Null : public Typed<Null, ValueType::Null> {
 public:
     static constexpr char const* name = "Null";
-    void dispatch(ConstVisitor& visitor) const override;
+    Value* clone() const override { return new Null; }
+    void dispatch(ConstVisitor& visitor) const override { visitor.visitNull(); }
 };
 
-class Boolean : public Holder<Boolean, ValueType::Boolean, bool> {
+class Boolean : public Holder<Boolean, ValueType::Boolean, bool, &ConstVisitor::visitBoolean> {
 public:
     static constexpr char const* name = "Boolean";
     using Holder::Holder;
-    void dispatch(ConstVisitor& visitor) const override;
 };
 
-class Integer : public Holder<Integer, ValueType::Integer, int> {
+class Integer : public Holder<Integer, ValueType::Integer, int, &ConstVisitor::visitInteger> {
 public:
     static constexpr char const* name = "Integer";
     using Holder::Holder;
-    void dispatch(ConstVisitor& visitor) const override;
 };
 
-class Float : public Holder<Float, ValueType::Float, double> {
+class Float : public Holder<Float, ValueType::Float, double, &ConstVisitor::visitFloat> {
 public:
     static constexpr char const* name = "Float";
     using Holder::Holder;
-    void dispatch(ConstVisitor& visitor) const override;
 };
 
-class String : public Holder<String, ValueType::String, std::string> {
+class String : public Holder<String, ValueType::String, std::string, &ConstVisitor::visitString> {
 public:
     static constexpr char const* name = "String";
     using Holder::Holder;
-    void dispatch(ConstVisitor& visitor) const override;
 };
 
-class Blob : public Typed<Blob, ValueType::Blob> {
+class Blob : public Holder<Blob, ValueType::Blob, std::string, &ConstVisitor::visitBlob> {
 public:
     static constexpr char const* name = "Blob";
-    Blob(zel::common::types::BufferDescriptor<char const> bytes);
-    void dispatch(ConstVisitor& visitor) const override;
-
-private:
-    std::string m_bytes;
+    using Holder::Holder;
+    Blob(zel::common::types::BufferDescriptor<char const> bytes)
+        : Holder(std::string(bytes.start, bytes.length))
+    {
+    }
 };
 
 class Array : public Typed<Array, ValueType::Array> {
@@ -162,22 +184,6 @@ public:
 
 private:
     Value const* m_value;
-};
-
-class ConstVisitor {
-public:
-    virtual ~ConstVisitor();
-    virtual void visitNull() = 0;
-    virtual void visitBoolean(bool value) = 0;
-    virtual void visitInteger(int value) = 0;
-    virtual void visitFloat(double value) = 0;
-    virtual void visitString(zel::common::types::BufferDescriptor<char const> text) = 0;
-    virtual void visitBlob(zel::common::types::BufferDescriptor<char const> bytes) = 0;
-    virtual void visitArray(zel::common::types::PtrVector<Value> const& entries) = 0;
-    virtual void visitObject(zel::common::types::PtrMap<std::string, Value> const& entries) = 0;
-
-    /// Calls nothing for a null pointer.
-    int visit(Value const* value);
 };
 
 } // namespace zel::dataformats::data
