@@ -28,6 +28,51 @@ TagWord zeros(TagWord word) noexcept
     return (word - lowBits) & ~word & highBits;
 }
 
+template <typename Word>
+Word wordAt(void const* place) noexcept
+{
+    Word word = 0;
+    std::memcpy(&word, place, sizeof word);
+    return word;
+}
+
+/// Whether two texts of `size` bytes begin and end with the same words, which may overlap.
+template <typename Word>
+bool sameEnds(char const* left, char const* right, std::size_t size) noexcept
+{
+    std::size_t const last = size - sizeof(Word);
+    return wordAt<Word>(left) == wordAt<Word>(right) &&
+           wordAt<Word>(left + last) == wordAt<Word>(right + last);
+}
+
+/// Keys are so short that a call would take longer than the comparison.
+bool isSame(std::string_view left, std::string_view right) noexcept
+{
+    std::size_t size = left.size();
+    if (size != right.size()) {
+        return false;
+    }
+    char const* mine = left.data();
+    char const* theirs = right.data();
+    for (; size > 2 * sizeof(std::uint64_t); size -= sizeof(std::uint64_t)) {
+        if (wordAt<std::uint64_t>(mine) != wordAt<std::uint64_t>(theirs)) {
+            return false;
+        }
+        mine += sizeof(std::uint64_t);
+        theirs += sizeof(std::uint64_t);
+    }
+    if (size >= sizeof(std::uint64_t)) {
+        return sameEnds<std::uint64_t>(mine, theirs, size);
+    }
+    if (size >= sizeof(std::uint32_t)) {
+        return sameEnds<std::uint32_t>(mine, theirs, size);
+    }
+    if (size >= sizeof(std::uint16_t)) {
+        return sameEnds<std::uint16_t>(mine, theirs, size);
+    }
+    return size == 0 || *mine == *theirs;
+}
+
 } // namespace
 
 EntryBlock::EntryBlock(std::uint16_t capacity) noexcept
@@ -69,31 +114,42 @@ EntryBlock::Tag EntryBlock::tagOf(std::string_view key) noexcept
 EntryBlock::Found EntryBlock::find(EntryBlock const* first, EntryBlock const* last,
                                    std::string const& key) noexcept
 {
-    TagWord const wanted = lowBits * tagOf(key);
+    Tag const tag = tagOf(key);
+    std::uint64_t const bit = bitOf(tag);
     for (EntryBlock const* block = first; block != last; block = block->nextBlock()) {
-        for (std::size_t index = 0; index < block->m_size; index += tagsPerWord) {
-            TagWord word = 0;
-            std::memcpy(&word, block->tags() + index, sizeof word);
-            TagWord const marks = zeros(word ^ wanted);
-            if (marks == 0) {
-                continue;
-            }
-            if (Entry const* const entry = block->findMarked(index, marks, key)) {
-                return {entry, block};
-            }
+        if ((block->m_present & bit) == 0) {
+            continue;
+        }
+        if (Entry const* const entry = block->find(tag, key)) {
+            return {entry, block};
         }
     }
     return {};
 }
 
+inline EntryBlock::Entry const* EntryBlock::find(Tag tag, std::string_view key) const noexcept
+{
+    TagWord const wanted = lowBits * tag;
+    for (std::size_t index = 0; index < m_size; index += tagsPerWord) {
+        TagWord const marks = zeros(wordAt<TagWord>(tags() + index) ^ wanted);
+        if (marks == 0) {
+            continue;
+        }
+        if (Entry const* const entry = findMarked(index, marks, key)) {
+            return entry;
+        }
+    }
+    return nullptr;
+}
+
 /// The entry under `key` among those that `marks` has a bit in their byte for, the first byte being
 /// that of the entry at `index`; or null.
-EntryBlock::Entry const* EntryBlock::findMarked(std::size_t index, std::uint64_t marks,
-                                                std::string const& key) const noexcept
+inline EntryBlock::Entry const* EntryBlock::findMarked(std::size_t index, std::uint64_t marks,
+                                                       std::string_view key) const noexcept
 {
     for (; marks != 0; marks &= marks - 1) {
         Entry const* const entry = begin() + index + std::countr_zero(marks) / 8;
-        if (entry < end() && entry->first == key) {
+        if (entry < end() && isSame(entry->first, key)) {
             return entry;
         }
     }
@@ -110,14 +166,18 @@ EntryBlock::Entry* EntryBlock::lowerBound(std::string_view key) noexcept
 void EntryBlock::append(std::string_view key)
 {
     ::new (end()) Entry{std::string{key}, nullptr};
-    tags()[m_size++] = tagOf(key);
+    Tag const tag = tagOf(key);
+    tags()[m_size++] = tag;
+    m_present |= bitOf(tag);
 }
 
 EntryBlock::Entry& EntryBlock::insert(Entry* place, std::string&& key) noexcept
 {
-    Tag* const tag = tags() + (place - begin());
-    std::copy_backward(tag, tags() + m_size, tags() + m_size + 1);
-    *tag = tagOf(key);
+    Tag const tag = tagOf(key);
+    Tag* const tagPlace = tags() + (place - begin());
+    std::copy_backward(tagPlace, tags() + m_size, tags() + m_size + 1);
+    *tagPlace = tag;
+    m_present |= bitOf(tag);
 
     ::new (end()) Entry{{}, nullptr};
     ++m_size;
@@ -130,6 +190,7 @@ void EntryBlock::moveHalfTo(EntryBlock& other) noexcept
 {
     std::size_t const kept = m_size / 2U;
     std::copy(tags() + kept, tags() + m_size, other.tags());
+    other.m_present = m_present; // what is too much costs a look, no more
     std::uninitialized_move(begin() + kept, end(), other.begin());
     other.m_size = static_cast<std::uint16_t>(m_size - kept);
     std::destroy(begin() + kept, end());

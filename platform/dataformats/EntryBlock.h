@@ -18,7 +18,8 @@ namespace zel::common::types {
 ///
 /// Behind this head lie one tag for each entry, a byte computed from its key, and then the entries.
 /// A look-up compares eight tags at a time and looks at an entry only where the tag is right, so it
-/// reads hardly any key but the one it is after.
+/// reads hardly any key but the one it is after. The head tells which tags there are, so that a
+/// block without the key is mostly passed over at a glance.
 class EntryBlock : public Storage {
 public:
     using Entry = PtrMap<std::string, zel::dataformats::data::Value>::Entry;
@@ -75,14 +76,18 @@ private:
     explicit EntryBlock(std::uint16_t capacity) noexcept;
 
     static Tag tagOf(std::string_view key) noexcept;
+    static std::uint64_t bitOf(Tag tag) noexcept { return std::uint64_t{1} << (tag % 64); }
+
+    Entry const* find(Tag tag, std::string_view key) const noexcept;
     Entry const* findMarked(std::size_t index, std::uint64_t marks,
-                            std::string const& key) const noexcept;
+                            std::string_view key) const noexcept;
 
     Tag* tags() noexcept { return reinterpret_cast<Tag*>(this + 1); }
     Tag const* tags() const noexcept { return reinterpret_cast<Tag const*>(this + 1); }
 
     std::uint16_t m_size = 0;
     std::uint16_t m_capacity;
+    std::uint64_t m_present = 0; ///< the bit of each tag, and perhaps of some that were here before
 };
 
 } // namespace zel::common::types
