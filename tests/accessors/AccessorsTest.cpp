@@ -35,7 +35,7 @@ void expectAlone(ElementFields const& element, IObjectBase const& object, Field 
                  std::vector<int> const& numbers)
 {
     for (auto const& each : element.fields) {
-        EXPECT_EQ(each->isSet(object), each->key == field.key) << each->key;
+        EXPECT_EQ(each.isSet(object), each.key == field.key) << each.key;
     }
     EXPECT_EQ(difference(held(field, numbers), field.get(object)), "");
     EXPECT_EQ(difference({Tree::Map{memberFor(field, numbers)}}, samples::fullOf(object)), "");
@@ -56,15 +56,15 @@ TEST(Accessors, serveTheirOwnFieldAlone)
 {
     forEachElement([](ElementFields const& element) {
         for (auto const& field : element.fields) {
-            SCOPED_TRACE(field->key);
+            SCOPED_TRACE(field.key);
             auto const object = element.make();
             for (auto const& each : element.fields) {
-                EXPECT_FALSE(each->isSet(*object)) << each->key;
+                EXPECT_FALSE(each.isSet(*object)) << each.key;
             }
-            EXPECT_TRUE(field->put(*object, 1));
-            expectAlone(element, *object, *field, {1});
-            EXPECT_TRUE(field->put(*object, 0)); // the zero values too are set
-            expectAlone(element, *object, *field, {1, 0});
+            EXPECT_TRUE(field.put(*object, 1));
+            expectAlone(element, *object, field, {1});
+            EXPECT_TRUE(field.put(*object, 0)); // the zero values too are set
+            expectAlone(element, *object, field, {1, 0});
         }
     });
 }
@@ -76,13 +76,13 @@ TEST(Accessors, workBesideEachOther)
         Tree::Map expected;
         int number = 0;
         for (auto const& field : element.fields) {
-            EXPECT_TRUE(field->put(*object, ++number)) << field->key;
-            expected.push_back(memberFor(*field, {number}));
+            EXPECT_TRUE(field.put(*object, ++number)) << field.key;
+            expected.push_back(memberFor(field, {number}));
         }
         number = 0;
         for (auto const& field : element.fields) {
-            EXPECT_TRUE(field->isSet(*object)) << field->key;
-            EXPECT_EQ(difference(held(*field, {++number}), field->get(*object)), "") << field->key;
+            EXPECT_TRUE(field.isSet(*object)) << field.key;
+            EXPECT_EQ(difference(held(field, {++number}), field.get(*object)), "") << field.key;
         }
         EXPECT_EQ(difference({expected}, samples::fullOf(*object)), "");
     });
@@ -96,10 +96,10 @@ TEST(Accessors, setAnyClassThatTheFieldMayHoldAndLeaveNothingBehind)
             std::size_t const before = allocations::alive();
             auto object = element.make();
             for (int const number : {0, 1, 2, 3, 4, 5, 0}) {
-                EXPECT_TRUE(field->put(*object, number)) << field->key;
+                EXPECT_TRUE(field.put(*object, number)) << field.key;
             }
             object.reset();
-            EXPECT_EQ(allocations::alive(), before) << field->key;
+            EXPECT_EQ(allocations::alive(), before) << field.key;
         }
     });
 }

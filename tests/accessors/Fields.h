@@ -6,6 +6,7 @@
 #include "frame/IObjectBase.h"
 #include "frame/IResourceBase.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -22,25 +23,18 @@ using model::Tree;
 using zel::kiv::common::IObjectBase;
 
 /// One field of an element class.
-class Field {
-public:
-    Field(std::string_view ofKey, bool ofList) : key(ofKey), isList(ofList) {}
-    virtual ~Field() = default;
-    Field(Field const&) = delete;
-    Field& operator=(Field const&) = delete;
-
-    /// Whether a presence accessor of it says that it is set.
-    virtual bool isSet(IObjectBase const& owner) const = 0;
-    /// What its getter gives, in the value form.
-    virtual Tree get(IObjectBase const& owner) const = 0;
-    /// Sets it to the sample of that number, or adds that. Frees an element that is replaced. False
-    /// if the getter then gives another element, or the presence accessors another class.
-    virtual bool put(IObjectBase& owner, int number) const = 0;
-    /// What the sample of that number is in the value form.
-    virtual Tree sample(int number) const = 0;
-
+struct Field {
     std::string_view key;
     bool isList;
+    /// Whether a presence accessor of it says that it is set.
+    std::function<bool(IObjectBase const& owner)> isSet;
+    /// What its getter gives, in the value form.
+    std::function<Tree(IObjectBase const& owner)> get;
+    /// Sets it to the sample of that number, or adds that. Frees an element that is replaced. False
+    /// if the getter then gives another element, or the presence accessors another class.
+    std::function<bool(IObjectBase& owner, int number)> put;
+    /// What the sample of that number is in the value form.
+    Tree (*sample)(int number);
 };
 
 using Presence = bool (IObjectBase::*)() const;
@@ -48,59 +42,50 @@ using Presence = bool (IObjectBase::*)() const;
 /// The name that a sample element of that number has.
 std::string sampleName(int number);
 
+template <typename Plain>
+Plain plainSample(int number)
+{
+    if constexpr (std::is_same_v<Plain, std::string>) {
+        return sampleName(number);
+    } else if constexpr (std::is_same_v<Plain, double>) {
+        return number + 0.25;
+    } else {
+        return static_cast<Plain>(number);
+    }
+}
+
+template <typename Plain>
+Tree treeOf(Plain const& plain)
+{
+    return {plain};
+}
+
+template <typename Plain>
+Tree treeOf(std::vector<Plain> const& plain)
+{
+    Tree::List list;
+    for (Plain const& entry : plain) {
+        list.push_back({entry});
+    }
+    return {list};
+}
+
 /// A field of a plain kind: `Got` is what the getter gives, `Given` what the setter takes.
 template <typename Got, typename Given>
-class PlainField : public Field {
-public:
-    using Get = Got (IObjectBase::*)() const;
-    using Set = void (IObjectBase::*)(Given);
+Field plainField(std::string_view key, Got (IObjectBase::*get)() const,
+                 void (IObjectBase::*set)(Given), Presence presence)
+{
     using Single = std::remove_cvref_t<Given>;
-    using Stored = std::remove_cvref_t<Got>;
-
-    PlainField(std::string_view ofKey, Get getter, Set set, Presence presence)
-        : Field(ofKey, !std::is_same_v<Single, Stored>), m_get(getter), m_set(set),
-          m_presence(presence)
-    {
-    }
-
-    bool isSet(IObjectBase const& owner) const override { return (owner.*m_presence)(); }
-    Tree get(IObjectBase const& owner) const override { return treeOf((owner.*m_get)()); }
-    bool put(IObjectBase& owner, int number) const override
-    {
-        (owner.*m_set)(single(number));
-        return true;
-    }
-    Tree sample(int number) const override { return {single(number)}; }
-
-private:
-    static Single single(int number)
-    {
-        if constexpr (std::is_same_v<Single, std::string>) {
-            return sampleName(number);
-        } else if constexpr (std::is_same_v<Single, double>) {
-            return number + 0.25;
-        } else {
-            return static_cast<Single>(number);
-        }
-    }
-
-    static Tree treeOf(Stored const& stored)
-    {
-        if constexpr (std::is_same_v<Single, Stored>) {
-            return {stored};
-        } else {
-            Tree::List list;
-            for (Single const& entry : stored) {
-                list.push_back({entry});
-            }
-            return {list};
-        }
-    }
-
-    Get m_get;
-    Set m_set;
-    Presence m_presence;
-};
+    return {key,
+            !std::is_same_v<Single, std::remove_cvref_t<Got>>,
+            [=](IObjectBase const& owner) { return (owner.*presence)(); },
+            [=](IObjectBase const& owner) { return treeOf((owner.*get)()); },
+            [=](IObjectBase& owner, int number) {
+                (owner.*set)(plainSample<Single>(number));
+                return true;
+            },
+            [](int number) { return Tree{plainSample<Single>(number)}; }};
+}
 
 /// A member function whose type was put aside; only one of its own type may be called through it.
 using Erased = void (IObjectBase::*)();
@@ -148,8 +133,8 @@ Target target(void (E::*accept)(std::unique_ptr<T>), bool (E::*presence)() const
 }
 
 /// A field of elements of one class, or of several that take turns by the number of the sample.
-std::unique_ptr<Field> nestedField(std::string_view key, bool isList, Held held, Erased get,
-                                   std::vector<Target> targets);
+Field nestedField(std::string_view key, bool isList, Held held, Erased get,
+                  std::vector<Target> targets);
 
 /// The fields of one element class, and how to make an element. Each operation takes the accessors
 /// of a field of one kind; what has another type than it says does not compile.
@@ -158,16 +143,15 @@ struct ElementFields {
     std::unique_ptr<IObjectBase> (*make)();
     /// Uses all operations of the resource class; what went wrong, or null.
     char const* (*faultOfResource)();
-    std::vector<std::unique_ptr<Field>> fields;
+    std::vector<Field> fields;
 
     template <typename Got, typename Given, typename E>
     void plain(std::string_view key, Got (E::*get)() const, void (E::*set)(Given),
                bool (E::*presence)() const)
     {
-        using Kept = PlainField<Got, Given>;
-        fields.push_back(std::make_unique<Kept>(key, static_cast<typename Kept::Get>(get),
-                                                static_cast<typename Kept::Set>(set),
-                                                static_cast<Presence>(presence)));
+        fields.push_back(plainField(key, static_cast<Got (IObjectBase::*)() const>(get),
+                                    static_cast<void (IObjectBase::*)(Given)>(set),
+                                    static_cast<Presence>(presence)));
     }
 
     template <typename T, typename E>

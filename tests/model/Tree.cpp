@@ -7,8 +7,6 @@
 #include <bit>
 #include <charconv>
 #include <cstdint>
-#include <iomanip>
-#include <sstream>
 
 namespace model {
 
@@ -64,11 +62,21 @@ struct ValueMaker {
     }
 };
 
-std::string quoted(std::string const& text)
+std::string quoted(std::string_view text)
 {
-    std::ostringstream stream;
-    stream << std::quoted(text);
-    return stream.str();
+    constexpr std::string_view digits = "0123456789abcdef";
+    std::string result = "\"";
+    for (char const each : text) {
+        auto const code = static_cast<unsigned char>(each);
+        if (each == '"' || each == '\\') {
+            result += {'\\', each};
+        } else if (code >= 0x20 && code < 0x7f) {
+            result += each;
+        } else {
+            result += {'\\', 'x', digits[code / 16], digits[code % 16]};
+        }
+    }
+    return result + '"';
 }
 
 struct Describer {
