@@ -15,7 +15,8 @@ IObjectBase::~IObjectBase() = default;
 
 bool IObjectBase::normalizeObject(Value& value, Object*& object)
 {
-    if (value.getType() == ValueType::String) {
+    auto const type = value.getType();
+    if (type == ValueType::String) {
         object->setNew("uri", value.clone());
         std::string service;
         std::string resource;
@@ -26,7 +27,7 @@ bool IObjectBase::normalizeObject(Value& value, Object*& object)
         }
         return true;
     }
-    if (value.getType() == ValueType::Object) {
+    if (type == ValueType::Object) {
         object = static_cast<Object*>(&value);
         return true;
     }

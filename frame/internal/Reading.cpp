@@ -2,6 +2,9 @@
 
 #include "frame/internal/Values.h"
 
+#include <cstdint>
+#include <cstring>
+
 namespace zel::kiv::common::internal {
 
 using zel::dataformats::data::Array;
@@ -18,15 +21,47 @@ NestedObject::NestedObject(Value const& value) : m_current(&m_temporary)
 
 namespace {
 
-// A third of all instructions goes into look-ups, so the call is spared.
-[[gnu::always_inline]] inline Value const* lookUp(ObjectReader::Map const& map, std::string& buffer,
-                                                  Key key)
+// What a string holds without memory of its own, in the usual standard library.
+constexpr std::string_view blanks = "               ";
+
+/// Copies the first and the last bytes of a text, which may overlap, as one word each.
+template <typename Word>
+void copyEnds(char* to, char const* from, std::size_t length)
 {
-    // Clearing and appending takes fewer instructions than assigning does.
-    buffer.clear();
-    buffer.append(key.text, key.length);
-    auto const entry = map.find(buffer);
+    Word first = 0;
+    Word last = 0;
+    std::memcpy(&first, from, sizeof first);
+    std::memcpy(&last, from + length - sizeof last, sizeof last);
+    std::memcpy(to, &first, sizeof first);
+    std::memcpy(to + length - sizeof last, &last, sizeof last);
+}
+
+/// Copies a text of no more than 16 bytes without a call.
+void copyShort(char* to, char const* from, std::size_t length)
+{
+    if (length >= sizeof(std::uint64_t)) {
+        copyEnds<std::uint64_t>(to, from, length);
+    } else if (length >= sizeof(std::uint32_t)) {
+        copyEnds<std::uint32_t>(to, from, length);
+    } else if (length >= sizeof(std::uint16_t)) {
+        copyEnds<std::uint16_t>(to, from, length);
+    } else if (length != 0) {
+        *to = *from;
+    }
+}
+
+Value const* lookUp(ObjectReader::Map const& map, std::string const& key)
+{
+    auto const entry = map.find(key);
     return entry == map.end() ? nullptr : valueOf(*entry);
+}
+
+// Not in line, so that a key that is absent costs little.
+template <auto answer, typename Setter>
+[[gnu::noinline]] void set(IObjectBase& target, Setter setter, Value const& value)
+{
+    Ref const reference(&value);
+    (target.*setter)((reference.*answer)());
 }
 
 void attach(Value const& value, IObjectBase& owner, Make make, Give<IObjectBase> give)
@@ -47,9 +82,19 @@ ObjectReader::ObjectReader(Map const& map, IObjectBase& target, std::size_t long
     }
 }
 
-Value const* ObjectReader::find(Key key)
+// More time goes into making keys than into anything else here. A short one is a string of a fixed
+// length that is filled and cut off: with all of that in line, no call is left but the look-up.
+[[gnu::flatten, gnu::noinline]] Value const* ObjectReader::find(Key key)
 {
-    return lookUp(*m_map, m_key, key);
+    if (key.length <= blanks.size()) {
+        std::string text(blanks.data(), blanks.size());
+        copyShort(text.data(), key.text, key.length);
+        text.erase(key.length);
+        return lookUp(*m_map, text);
+    }
+    m_key.clear();
+    m_key.append(key.text, key.length);
+    return lookUp(*m_map, m_key);
 }
 
 ObjectReader::Entries const* ObjectReader::findEntries(Key key)
@@ -64,29 +109,29 @@ ObjectReader::Entries const* ObjectReader::findEntries(Key key)
 
 void ObjectReader::readText(Key key, TextSetter setter)
 {
-    if (Value const* const value = lookUp(*m_map, m_key, key)) {
-        (m_target->*setter)(Ref(value).asString());
+    if (Value const* const value = find(key)) {
+        set<&Ref::asString>(*m_target, setter, *value);
     }
 }
 
 void ObjectReader::readInteger(Key key, IntegerSetter setter)
 {
-    if (Value const* const value = lookUp(*m_map, m_key, key)) {
-        (m_target->*setter)(Ref(value).asInteger());
+    if (Value const* const value = find(key)) {
+        set<&Ref::asInteger>(*m_target, setter, *value);
     }
 }
 
 void ObjectReader::readFloat(Key key, FloatSetter setter)
 {
-    if (Value const* const value = lookUp(*m_map, m_key, key)) {
-        (m_target->*setter)(Ref(value).asFloat());
+    if (Value const* const value = find(key)) {
+        set<&Ref::asFloat>(*m_target, setter, *value);
     }
 }
 
 void ObjectReader::readFlag(Key key, FlagSetter setter)
 {
-    if (Value const* const value = lookUp(*m_map, m_key, key)) {
-        (m_target->*setter)(Ref(value).asBoolean());
+    if (Value const* const value = find(key)) {
+        set<&Ref::asBoolean>(*m_target, setter, *value);
     }
 }
 
