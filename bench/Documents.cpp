@@ -15,6 +15,7 @@ using zel::dataformats::data::Integer;
 using zel::dataformats::data::Object;
 using zel::dataformats::data::String;
 using zel::dataformats::data::Value;
+using zel::dataformats::data::ValueType;
 using zel::kiv::catalogue::Field;
 using zel::kiv::catalogue::isNested;
 using zel::kiv::catalogue::Kind;
@@ -144,7 +145,37 @@ private:
     Shown m_shown;
 };
 
+std::size_t longKeysIn(Resource const* resource, Value const& value)
+{
+    if (resource == nullptr) {
+        return 0;
+    }
+    if (value.getType() == ValueType::Array) {
+        std::size_t count = 0;
+        for (Value const* each : const_cast<Array&>(static_cast<Array const&>(value)).get()) {
+            count += longKeysIn(resource, *each);
+        }
+        return count;
+    }
+    auto const& entries = static_cast<Object const&>(value).get();
+    std::size_t count = 0;
+    bool isLong = false;
+    for (Field const& field : resource->fields) {
+        isLong = isLong || field.key.size() > std::string().capacity();
+        auto const entry = entries.find(std::string(field.key));
+        if (isNested(field.kind) && entry != entries.end()) {
+            count += longKeysIn(field.targets.front(), *static_cast<Value const*>(entry->second));
+        }
+    }
+    return count + (isLong ? 1 : 0);
+}
+
 } // namespace
+
+std::size_t elementsWithLongKeys(Workload const& workload, Array const& document)
+{
+    return longKeysIn(&resourceOf(workload), document);
+}
 
 Resource const& resourceOf(Workload const& workload)
 {

@@ -30,4 +30,9 @@ zel::kiv::catalogue::Resource const& resourceOf(Workload const& workload);
 std::unique_ptr<zel::dataformats::data::Array> document(Workload const& workload,
                                                         std::size_t elements);
 
+/// How many elements of a document, the nested ones included, are of a class with a key that a
+/// string does not hold in place.
+std::size_t elementsWithLongKeys(Workload const& workload,
+                                 zel::dataformats::data::Array const& document);
+
 } // namespace bench

@@ -1,6 +1,7 @@
 // Counts what one call of each case allocates, or runs a single case for whoever counts its
 // instructions.
 //   counts ELEMENTS                                prints "workload direction subject allocations"
+//       and, as subject "buffers", how many elements have a long key
 //   counts ELEMENTS WORKLOAD DIRECTION SUBJECT     calls `measuredCall` once for that case
 
 #include "bench/Cases.h"
@@ -71,6 +72,11 @@ int main(int count, char** arguments)
     for (bench::Workload const& workload : bench::workloads) {
         if (single && workload.name != arguments[2]) {
             continue;
+        }
+        if (!single) {
+            std::cout << workload.name << " deserialize buffers "
+                      << elementsWithLongKeys(workload, *bench::document(workload, elements))
+                      << '\n';
         }
         for (bench::Case const& each : casesOf(workload, elements)) {
             if (single && (each.direction != arguments[3] || each.subject != arguments[4])) {

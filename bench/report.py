@@ -38,7 +38,7 @@ def load_figures(path):
 
 
 def goals(times, figures):
-    """Rows of (figure, goal, measured, whether at most or at least)."""
+    """Rows of (figure, goal, measured, "<=" for at most or ">=" for at least)."""
 
     def time_ratio(workload, direction, other):
         return times[workload, direction, "kiv"] / times[workload, direction, other]
@@ -58,9 +58,11 @@ def goals(times, figures):
     for workload in WORKLOADS:
         allocated = lambda way: figures[f"allocations/{workload}/{way}"]
         rows.append((f"serialize, allocations an element beyond build, {workload}", 0,
-                     allocated("serialize/kiv") - allocated("serialize/build"), "<="))
-        rows.append((f"deserialize, allocations an element beyond read, {workload}", None,
-                     allocated("deserialize/kiv") - allocated("deserialize/read"), ""))
+                     round(allocated("serialize/kiv") - allocated("serialize/build"), 2), "<="))
+        rows.append((f"deserialize, allocations an element beyond read and a buffer for each element "
+                     f"with a long key, {workload}", 0,
+                     round(allocated("deserialize/kiv") - allocated("deserialize/read")
+                           - allocated("deserialize/buffers"), 2), "<="))
     rows += [
         ("stripped library, bytes", 2_400_000, figures["size/kiv"], "<="),
         ("symbolic data relocations", 850, figures["symbolic-relocations/kiv"], "<="),
@@ -70,8 +72,8 @@ def goals(times, figures):
     ]
     optional = [
         ("start-up, instructions over the protobuf library's", 0.07, "startup-instructions", "<="),
-        ("start-up, time over the protobuf library's", 0.07, "startup-time", "<="),
-        ("full build, two jobs, time over the protobuf library's", 0.8, "build-ratio", "<="),
+        ("start-up, processor time over the protobuf library's", 0.07, "startup-time", "<="),
+        ("full build, two jobs, processor time over the protobuf library's", 0.8, "build-worked-ratio", "<="),
         ("build without a change, seconds", 1, "build-unchanged", "<="),
         ("build with one definition touched, seconds", 5, "build-touched", "<="),
     ]
@@ -88,9 +90,9 @@ def text_of(number):
 def goal_table(rows):
     lines = ["| figure | goal | measured | |", "|---|---|---|---|"]
     for what, limit, measured, way in rows:
-        met = {"<=": lambda: measured <= limit, ">=": lambda: measured >= limit, "": lambda: True}[way]()
-        goal = f"{way} {text_of(limit)}".strip()
-        lines.append(f"| {what} | {goal} | {text_of(measured)} | {'' if met else 'missed'} |")
+        met = measured <= limit if way == "<=" else measured >= limit
+        lines.append(f"| {what} | {way} {text_of(limit)} | {text_of(measured)} "
+                     f"| {'met' if met else 'missed'} |")
     return lines
 
 

@@ -1,16 +1,20 @@
-// Times each case with Google Benchmark. All rounds of all cases are mixed in one process, and the
-// heap is brought together before each run: a scattered free list alone can double a time.
+// Times each case with Google Benchmark. All rounds of all cases are mixed in one process, and each
+// run has a fresh copy of it.
 
 #include "bench/Cases.h"
 
 #include <benchmark/benchmark.h>
 
 #include <malloc.h>
+#include <sys/wait.h>
 #include <time.h>
+#include <unistd.h>
 
 #include <algorithm>
-#include <cstdlib>
+#include <cerrno>
 #include <limits>
+#include <stdexcept>
+#include <system_error>
 
 namespace {
 
@@ -24,40 +28,79 @@ double worked()
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-/// Keeps freed memory in the process, so that no run pays for getting it from the system.
+constexpr std::size_t megabyte = 1024 * 1024;
+
+/// Keeps freed memory, large pieces included, in the heap of the process.
 void keepMemory()
 {
-    mallopt(M_MMAP_THRESHOLD, std::numeric_limits<int>::max());
+    mallopt(M_MMAP_THRESHOLD, 32 * megabyte);
     mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
-    mallopt(M_TOP_PAD, 64 * 1024 * 1024);
 }
 
-/// Joins the pieces of freed memory, which is what a request for a large piece begins with.
-void joinFreedMemory()
+/// Makes the heap begin with so much memory in one piece that no run has to ask the system for any.
+void freshMemory(std::size_t size)
 {
-    std::free(std::malloc(1024 * 1024));
+    // Beyond the threshold it would go back at once.
+    size = std::min<std::size_t>(size, 2000 * megabyte);
+    std::vector<std::unique_ptr<char[]>> pieces;
+    for (std::size_t got = 0; got < size; got += 16 * megabyte) {
+        pieces.push_back(std::make_unique<char[]>(16 * megabyte));
+    }
 }
 
-void measure(benchmark::State& state, Case const& each)
+struct Outcome {
+    double seconds;
+    std::size_t bytes; ///< that the results take
+};
+
+Outcome run(Case const& each, std::size_t times, std::size_t memory)
+{
+    freshMemory(2 * memory);
+    // The first run of the copy pays for pages that it shares no longer. What it makes stays.
+    bench::Result const first = each.run();
+    std::vector<bench::Result> results(times);
+    std::size_t const before = mallinfo2().uordblks;
+    double const start = worked();
+    for (bench::Result& result : results) {
+        result = each.run();
+    }
+    return {worked() - start, mallinfo2().uordblks - before};
+}
+
+/// One run in a copy of this process, so that each run finds the heap as it was before the first
+/// one: where the pieces lie that others have freed can treble a time.
+Outcome runApart(Case const& each, std::size_t times, std::size_t memory)
+{
+    int ends[2];
+    if (pipe(ends) != 0) {
+        throw std::system_error(errno, std::generic_category(), "times: pipe");
+    }
+    pid_t const child = fork();
+    if (child == 0) {
+        Outcome const outcome = run(each, times, memory);
+        _exit(write(ends[1], &outcome, sizeof outcome) == sizeof outcome ? 0 : 1);
+    }
+    close(ends[1]);
+    Outcome outcome{};
+    bool const good = child > 0 && read(ends[0], &outcome, sizeof outcome) == sizeof outcome;
+    close(ends[0]);
+    waitpid(child, nullptr, 0);
+    if (!good) {
+        throw std::runtime_error("times: a run of " + each.workload + " failed");
+    }
+    return outcome;
+}
+
+void measure(benchmark::State& state, Case const& each, std::size_t& memory)
 {
     // Small documents are read several times in one run, so that the clock does not count.
     std::size_t const times = std::max<std::size_t>(1, 1000 / each.elements);
-    std::vector<bench::Result> results(times);
-    auto const run = [&] {
-        joinFreedMemory();
-        double const start = worked();
-        for (bench::Result& result : results) {
-            result = each.run();
-        }
-        double const taken = worked() - start;
-        for (bench::Result& result : results) {
-            result.reset();
-        }
-        return taken;
-    };
-    run();
+    if (memory == 0) {
+        // Lists that grow leave some behind.
+        memory = runApart(each, times, 0).bytes * 2;
+    }
     for ([[maybe_unused]] auto round : state) {
-        state.SetIterationTime(run());
+        state.SetIterationTime(runApart(each, times, memory).seconds);
     }
     state.counters["elements"] = static_cast<double>(times * each.elements);
 }
@@ -110,9 +153,11 @@ int main(int count, char** arguments)
     addSizes(cases);
     for (Case const& each : cases) {
         std::string const name = each.workload + '/' + each.direction + '/' + each.subject;
-        benchmark::RegisterBenchmark(name.c_str(), [&each](benchmark::State& state) {
-            measure(state, each);
-        })->UseManualTime();
+        benchmark::RegisterBenchmark(
+            name.c_str(),
+            [&each, memory = std::size_t{0}](auto& state) mutable { measure(state, each, memory); })
+            ->UseManualTime()
+            ->Iterations(1);
     }
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
