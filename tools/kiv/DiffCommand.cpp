@@ -1,9 +1,11 @@
 #include "Command.h"
+#include "Failure.h"
 #include "InputFile.h"
 #include "Lookup.h"
 #include "diff/Difference.h"
 #include "frame/IObjectBase.h"
 #include "walk/Guard.h"
+#include "walk/ValueWords.h"
 #include "json/JsonWriter.h"
 
 namespace kiv {
@@ -50,15 +52,27 @@ private:
     {
         auto entries = std::make_unique<data::Array>();
         InputFile input = openInput(path);
-        json::readEntries(input.name, std::move(input.source),
-                          [&](json::Entry const& entry, json::Places const& places) {
-                              refuseForbidden(input.name, resource, entry, places);
-                              auto const element = resource.makeElement();
-                              element->deserialize(entry.value.get());
-                              entries->pushNew(
-                                  element->serialize(common::SerializationType::Full).release());
-                          });
+        json::Document const rest = json::readEntries(
+            input.name, std::move(input.source),
+            [&](json::Entry const& entry, json::Places const& places) {
+                refuseForbidden(input.name, resource, entry, places);
+                auto const element = resource.makeElement();
+                element->deserialize(entry.value.get());
+                entries->pushNew(element->serialize(common::SerializationType::Full).release());
+            });
+        refuseAllButArray(input.name, rest);
         return entries;
+    }
+
+    /// The library would read anything else as no elements, and two such documents as the same.
+    static void refuseAllButArray(std::string const& file, json::Document const& document)
+    {
+        data::Value const* const top = document.value.get();
+        if (top == nullptr || top->getType() != data::ValueType::Array) {
+            throw Failure(json::placeText(file, document.position),
+                          std::string(wordsFor(top)) +
+                              " where an array is wanted; put the elements in brackets");
+        }
     }
 
     static void print(Console& console, Path const& path, data::Value const* a,
