@@ -49,7 +49,8 @@ std::string TargetCheck::whatIsWrong(std::string const& target) const
         return inQuotes(target) + " names an element class; a target is named by its resource, " +
                inQuotes(found->second);
     }
-    auto const meant = zel::kiv::catalogue::didYouMean(target, names_);
+    // A file whose name is refused is a name here too, with whatever bytes it has.
+    auto const meant = printable(zel::kiv::catalogue::didYouMean(target, names_));
     if (target.find("::") != std::string::npos) {
         return "there is no resource " + inQuotes(target) + meant;
     }
