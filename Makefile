@@ -38,7 +38,7 @@ format: ## bring the code into form
 	@scripts/sources | xargs clang-format -i
 
 sanitize: ## all tests under address, undefined-behaviour and thread sanitizers (QUICK=1)
-	@scripts/install-packages build sanitize
+	@scripts/install-packages build sanitize $(if $(QUICK),fuzz)
 	@scripts/sanitize $(if $(QUICK),--quick) -j $(JOBS)
 
 arm64: ## cross-build for 64-bit Arm and run the tests under emulation
