@@ -152,6 +152,27 @@ TEST(JsonReader, depthHasALimit)
     EXPECT_EQ(faultOf("[" + deepest + "]"), "f:1:1001 nested deeper than 1000 levels");
 }
 
+TEST(JsonReader, oneTextHasALimitAndManyHaveNone)
+{
+    auto const isCut = [](std::string text) {
+        PositionedStream stream(textSource(std::move(text), 1000), 100'000);
+        while (!stream.atEnd()) {
+            stream.Take();
+        }
+        return stream.isCut();
+    };
+    std::string const tooLong(200'000, '7');
+    EXPECT_TRUE(isCut("[\"" + tooLong + "\"]"));
+    EXPECT_TRUE(isCut("{\"" + tooLong + "\": 1}"));
+    EXPECT_TRUE(isCut("[" + tooLong + "]"));
+    EXPECT_FALSE(isCut(std::string(200'000, ' ')));
+    std::string many = "[";
+    while (many.size() < tooLong.size()) {
+        many += "\"short\", 77, ";
+    }
+    EXPECT_FALSE(isCut(many));
+}
+
 TEST(JsonReader, entriesComeBeforeTheFileIsRead)
 {
     std::string const entry = R"({"id":"one"},)";

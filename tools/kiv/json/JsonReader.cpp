@@ -34,6 +34,9 @@ bool isControl(char byte)
 /// What is wrong at the place where the reader stopped, where more can be said than it knows.
 std::string faultWords(Fault fault, PositionedStream const& stream)
 {
+    if (stream.isCut()) {
+        return "the text or number that starts here is longer than 2 GiB; make it shorter";
+    }
     if (!stream.atEnd() && stream.Peek() == '\0') {
         return "a zero byte cannot stand in JSON";
     }
@@ -67,7 +70,7 @@ Position faultPosition(rapidjson::ParseResult const& result, PositionedStream co
     if (!stream.atEnd() && stream.Peek() == '\0') {
         return stream.here();
     }
-    if (result.Code() == rapidjson::kParseErrorStringMissQuotationMark ||
+    if (stream.isCut() || result.Code() == rapidjson::kParseErrorStringMissQuotationMark ||
         (result.Code() == rapidjson::kParseErrorValueInvalid && stream.inWord())) {
         return stream.token();
     }
@@ -98,7 +101,7 @@ Document read(std::string const& file, ByteSource source, EntryHandler const* ha
     rapidjson::Reader reader;
     rapidjson::ParseResult const result = reader.Parse<flags>(stream, builder);
     bool const stoppedAtZero = !result.IsError() && !stream.atEnd();
-    if (result.IsError() || stoppedAtZero) {
+    if (result.IsError() || stoppedAtZero || stream.isCut()) {
         throw Failure(placeText(file, faultPosition(result, stream)),
                       faultWords(result.Code(), stream));
     }

@@ -14,8 +14,9 @@
 /// `Float`, and of a repeated key the last value stays.
 ///
 /// A text that is no JSON in UTF-8, an integer outside 32 bits, a number too large for a double, a
-/// key with a zero byte, and nesting deeper than `maxDepth` are refused: the reading operations
-/// throw `Failure` with file, line and column. What the source throws passes through.
+/// key with a zero byte, a text of more than 2 GiB, and nesting deeper than `maxDepth` are refused:
+/// the reading operations throw `Failure` with file, line and column. What the source throws passes
+/// through.
 namespace kiv::json {
 
 /// How deep arrays and objects may be nested. The library walks into nested elements by recursion,

@@ -26,7 +26,12 @@ class PositionedStream {
 public:
     using Ch = char;
 
-    explicit PositionedStream(ByteSource source) : m_source(std::move(source))
+    /// The reader counts the bytes of a string or a number in 32 bits, and writes where it should
+    /// not when they run over. So the text ends for it within a longer one.
+    static constexpr std::size_t longestToken = std::size_t{2} << 30U;
+
+    explicit PositionedStream(ByteSource source, std::size_t longest = longestToken)
+        : m_source(std::move(source)), m_longest(longest)
     {
         std::size_t count = 0;
         do { // a source may give less than it could
@@ -63,6 +68,9 @@ public:
 
     [[nodiscard]] bool atEnd() const { return m_next == m_end; }
 
+    /// Whether the end is that of a token which is too long.
+    [[nodiscard]] bool isCut() const { return m_isCut; }
+
     /// Whether the text starts with this byte order mark. To be asked before anything is taken.
     [[nodiscard]] bool startsWith(std::string_view mark) const
     {
@@ -97,7 +105,8 @@ private:
     void fill()
     {
         m_next = 0;
-        m_end = m_source(m_chunk);
+        m_isCut = (m_inString || m_inWord) && m_offset - m_tokenOffset > m_longest;
+        m_end = m_isCut ? 0 : m_source(m_chunk);
     }
 
     void advance(char byte)
@@ -123,8 +132,9 @@ private:
             return;
         }
         bool const bare = isBare(byte);
-        if (!bare || !m_inWord) {
-            m_token = isBlank(byte) ? m_token : m_here;
+        if (!isBlank(byte) && (!bare || !m_inWord)) {
+            m_token = m_here;
+            m_tokenOffset = m_offset;
         }
         m_inWord = bare;
         m_inString = byte == '"';
@@ -159,16 +169,19 @@ private:
     }
 
     ByteSource m_source;
+    std::size_t m_longest;
     std::vector<char> m_chunk = std::vector<char>(chunkSize);
     std::size_t m_next = 0;
     std::size_t m_end = 0;
     std::size_t m_offset = 0;
+    std::size_t m_tokenOffset = 0;
     Position m_here;
     Position m_token;
     std::array<Position, historySize> m_history;
     bool m_inString = false;
     bool m_escaped = false;
     bool m_inWord = false;
+    bool m_isCut = false;
 };
 
 } // namespace kiv::json
