@@ -64,6 +64,20 @@ template <auto answer, typename Setter>
     (target.*setter)((reference.*answer)());
 }
 
+/// Does that with the entries of a list, if it is one, passing over those that are null.
+template <typename Entries, typename Use>
+void eachOf(Entries const* entries, Use use)
+{
+    if (entries == nullptr) {
+        return;
+    }
+    for (Value const* const entry : *entries) {
+        if (entry != nullptr) {
+            use(*entry);
+        }
+    }
+}
+
 void attach(Value const& value, IObjectBase& owner, Make make, Give<IObjectBase> give)
 {
     NestedObject const nested(value);
@@ -137,28 +151,14 @@ void ObjectReader::readFlag(Key key, FlagSetter setter)
 
 void ObjectReader::readTexts(Key key, TextSetter adder)
 {
-    auto const* const entries = findEntries(key);
-    if (entries == nullptr) {
-        return;
-    }
-    for (Value const* const entry : *entries) {
-        if (entry != nullptr) {
-            (m_target->*adder)(Ref(entry).asString());
-        }
-    }
+    eachOf(findEntries(key),
+           [&](Value const& entry) { (m_target->*adder)(Ref(&entry).asString()); });
 }
 
 void ObjectReader::readIntegers(Key key, IntegerSetter adder)
 {
-    auto const* const entries = findEntries(key);
-    if (entries == nullptr) {
-        return;
-    }
-    for (Value const* const entry : *entries) {
-        if (entry != nullptr) {
-            (m_target->*adder)(Ref(entry).asInteger());
-        }
-    }
+    eachOf(findEntries(key),
+           [&](Value const& entry) { (m_target->*adder)(Ref(&entry).asInteger()); });
 }
 
 void ObjectReader::attachOne(Key key, Make make, Give<IObjectBase> give)
@@ -170,15 +170,7 @@ void ObjectReader::attachOne(Key key, Make make, Give<IObjectBase> give)
 
 void ObjectReader::attachAll(Key key, Make make, Give<IObjectBase> give)
 {
-    auto const* const entries = findEntries(key);
-    if (entries == nullptr) {
-        return;
-    }
-    for (Value const* const entry : *entries) {
-        if (entry != nullptr) {
-            attach(*entry, *m_target, make, give);
-        }
-    }
+    eachOf(findEntries(key), [&](Value const& entry) { attach(entry, *m_target, make, give); });
 }
 
 } // namespace zel::kiv::common::internal
