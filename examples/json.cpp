@@ -1,9 +1,9 @@
 #include "examples/json.h"
 
-#include "Console.h"
-#include "InputFile.h"
+#include "json/InputFile.h"
 #include "json/JsonReader.h"
 #include "json/JsonWriter.h"
+#include "text/Output.h"
 
 #include <iostream>
 

@@ -1,8 +1,8 @@
 #include "generator/model/Checks.h"
 
-#include "catalogue/Suggestion.h"
 #include "generator/Naming.h"
 #include "generator/model/Forms.h"
+#include "text/Suggestion.h"
 
 #include <algorithm>
 #include <map>
@@ -50,7 +50,7 @@ std::string TargetCheck::whatIsWrong(std::string const& target) const
                inQuotes(found->second);
     }
     // A file whose name is refused is a name here too, with whatever bytes it has.
-    auto const meant = printable(zel::kiv::catalogue::didYouMean(target, names_));
+    auto const meant = printable(kiv::didYouMean(target, names_));
     if (target.find("::") != std::string::npos) {
         return "there is no resource " + inQuotes(target) + meant;
     }

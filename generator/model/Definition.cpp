@@ -1,9 +1,9 @@
 #include "generator/model/Definition.h"
 
-#include "catalogue/Suggestion.h"
 #include "generator/Naming.h"
 #include "generator/model/Fields.h"
 #include "generator/model/Forms.h"
+#include "text/Suggestion.h"
 
 #include <algorithm>
 #include <array>
@@ -45,7 +45,7 @@ void Reader::read(Node const& document)
         if (std::ranges::find(knownKeys, entry.key) != knownKeys.end()) {
             continue;
         }
-        auto const meant = zel::kiv::catalogue::didYouMean(entry.key, knownKeys);
+        auto const meant = kiv::didYouMean(entry.key, knownKeys);
         fail(entry.place,
              "unknown key " + inQuotes(entry.key) +
                  (meant.empty() ? "; a definition has 'element', 'about', [fields] and "

@@ -1,7 +1,7 @@
 #include "generator/model/Fields.h"
 
-#include "catalogue/Suggestion.h"
 #include "generator/model/Forms.h"
+#include "text/Suggestion.h"
 
 #include <algorithm>
 #include <array>
@@ -11,7 +11,7 @@
 namespace kivgen {
 namespace {
 
-using zel::kiv::catalogue::didYouMean;
+using kiv::didYouMean;
 using zel::kiv::catalogue::kindOf;
 using zel::kiv::catalogue::kindWords;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Console.h"
+#include "text/Output.h"
 
 #include <cstdio>
 #include <functional>

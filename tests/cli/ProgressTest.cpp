@@ -1,4 +1,4 @@
-#include "Progress.h"
+#include "tools/kiv/Progress.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "json/JsonReader.h"
 #include "json/JsonWriter.h"
 
-#include "Failure.h"
 #include "Printed.h"
+#include "text/Failure.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "Command.h"
-#include "Failure.h"
 #include "catalogue/Catalogue.h"
 #include "tests/fuzz/Require.h"
+#include "text/Failure.h"
+#include "tools/kiv/Command.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,5 +1,5 @@
-#include "catalogue/Suggestion.h"
 #include "generator/Printer.h"
+#include "text/Suggestion.h"
 
 #include <gtest/gtest.h>
 
@@ -11,8 +11,8 @@
 
 namespace {
 
-using zel::kiv::catalogue::didYouMean;
-using zel::kiv::catalogue::nearest;
+using kiv::didYouMean;
+using kiv::nearest;
 using Words = std::vector<std::string>;
 
 TEST(Suggestion, TakesSlipsNotOtherWords)

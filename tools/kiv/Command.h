@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Console.h"
 #include "commandline/CommandLine.h"
+#include "tools/kiv/Console.h"
 
 #include <memory>
 #include <string_view>

@@ -1,46 +1,10 @@
-#include "Console.h"
-
-#include "Failure.h"
+#include "tools/kiv/Console.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdlib>
-#include <cstring>
 #include <unistd.h>
 
 namespace kiv {
-
-Output::Output(int descriptor) : m_descriptor(descriptor)
-{
-    m_buffer.reserve(bufferSize);
-}
-
-void Output::write(std::string_view text)
-{
-    m_buffer.append(text);
-    if (m_buffer.size() >= bufferSize) {
-        flush();
-    }
-}
-
-void Output::flush()
-{
-    if (m_text != nullptr) {
-        m_text->append(m_buffer);
-        m_buffer.clear();
-        return;
-    }
-    std::string_view rest = m_buffer;
-    while (!rest.empty()) {
-        ssize_t const written = ::write(m_descriptor, rest.data(), rest.size());
-        if (written >= 0) {
-            rest.remove_prefix(static_cast<std::size_t>(written));
-        } else if (errno != EINTR) {
-            throw Failure(std::string("cannot write the output: ") + std::strerror(errno));
-        }
-    }
-    m_buffer.clear();
-}
 
 namespace {
 
@@ -101,28 +65,6 @@ void Table::print(Console& console, std::string_view indent) const
         }
         console.output.put('\n');
     }
-}
-
-std::string counted(std::size_t number, std::string_view noun)
-{
-    std::string text = std::to_string(number);
-    for (std::size_t end = text.size(); end > 3; end -= 3) {
-        text.insert(end - 3, ",");
-    }
-    text.append(" ").append(noun);
-    return number == 1 ? text : text + "s";
-}
-
-std::string listed(std::vector<std::string> const& words, std::string_view last)
-{
-    std::string text;
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        if (i > 0) {
-            text.append(i + 1 < words.size() ? ", " : " " + std::string(last) + " ");
-        }
-        text.append(words[i]);
-    }
-    return text;
 }
 
 } // namespace kiv

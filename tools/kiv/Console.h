@@ -1,38 +1,12 @@
 #pragma once
 
+#include "text/Output.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace kiv {
-
-/// A buffered way to a file descriptor or into a text that does not lose a failed write. `flush`
-/// must be called at the end: what is still in the buffer when the output goes is dropped, so that
-/// a command that fails early prints nothing at all.
-class Output {
-public:
-    explicit Output(int descriptor);
-    /// Appends to `text`, which must outlive it.
-    explicit Output(std::string& text) : m_text(&text) {}
-
-    /// These throw `Failure` if the descriptor cannot be written.
-    void put(char character)
-    {
-        m_buffer.push_back(character);
-        if (m_buffer.size() >= bufferSize) {
-            flush();
-        }
-    }
-    void write(std::string_view text);
-    void flush();
-
-private:
-    static constexpr std::size_t bufferSize = 64UL * 1024;
-
-    int m_descriptor = -1;
-    std::string* m_text = nullptr; ///< if it is there, what is written goes here
-    std::string m_buffer;
-};
 
 /// Marks up text for a terminal, or leaves it as it is.
 class Style {
@@ -69,11 +43,5 @@ public:
 private:
     std::vector<std::vector<std::string>> m_rows;
 };
-
-/// "1 field", "1,669 fields".
-std::string counted(std::size_t number, std::string_view noun);
-
-/// "a, b and c", with `last` before the last one.
-std::string listed(std::vector<std::string> const& words, std::string_view last);
 
 } // namespace kiv

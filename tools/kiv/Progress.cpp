@@ -1,6 +1,6 @@
-#include "Progress.h"
+#include "tools/kiv/Progress.h"
 
-#include "Console.h"
+#include "tools/kiv/Console.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -66,19 +66,21 @@ void Progress::wipe()
     }
 }
 
-json::ByteSource withProgress(std::string const& name, int descriptor, json::ByteSource source)
+InputFile openWithProgress(std::string const& path)
 {
-    std::size_t const size = sizeOf(descriptor);
+    InputFile input = openInput(path);
+    std::size_t const size = sizeOf(input.descriptor);
     if (size < large || isatty(STDOUT_FILENO) != 0 || !redraws(STDERR_FILENO)) {
-        return source;
+        return input;
     }
     // Shared, since a std::function must be able to copy what it holds.
-    auto const bar = std::make_shared<Progress>(name, size, toStandardError);
-    return [bar, source = std::move(source)](std::span<char> buffer) {
+    auto const bar = std::make_shared<Progress>(input.name, size, toStandardError);
+    input.source = [bar, source = std::move(input.source)](std::span<char> buffer) {
         std::size_t const count = source(buffer);
         bar->advance(count);
         return count;
     };
+    return input;
 }
 
 } // namespace kiv

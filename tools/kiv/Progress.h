@@ -1,6 +1,6 @@
 #pragma once
 
-#include "json/PositionedStream.h"
+#include "json/InputFile.h"
 
 #include <cstddef>
 #include <functional>
@@ -37,9 +37,9 @@ private:
     std::size_t m_shown = 0; ///< percent, and one more; 0: no bar is there
 };
 
-/// The source with a bar on standard error while it is read, if somebody may look at it and it
+/// Opens a file, with a bar on standard error while it is read if somebody may look at it and it
 /// would not get into the way: standard error is a terminal that can redraw a line, standard output
-/// is none, and the file is regular and large. Otherwise the source as it is.
-json::ByteSource withProgress(std::string const& name, int descriptor, json::ByteSource source);
+/// is none, and the file is regular and large. Throws as `openInput` does.
+InputFile openWithProgress(std::string const& path);
 
 } // namespace kiv

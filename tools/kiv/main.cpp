@@ -1,6 +1,6 @@
-#include "Command.h"
-#include "Failure.h"
-#include "catalogue/Suggestion.h"
+#include "text/Failure.h"
+#include "text/Suggestion.h"
+#include "tools/kiv/Command.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -53,8 +53,7 @@ void refuseUnknownCommand(int argc, char const* const* argv, Commands const& com
         names.push_back(command->name());
     }
     if (std::find(names.begin(), names.end(), word) == names.end()) {
-        throw kiv::Failure("no command '" + word + "'" +
-                           zel::kiv::catalogue::didYouMean(word, names) +
+        throw kiv::Failure("no command '" + word + "'" + kiv::didYouMean(word, names) +
                            " (kiv --help shows all)");
     }
 }

@@ -1,10 +1,10 @@
 #include "tools/reference/Forms.h"
 
-#include "Lookup.h"
 #include "frame/IObjectBase.h"
+#include "json/JsonWriter.h"
+#include "tools/lookup/Lookup.h"
 #include "tools/reference/Templates.h"
 #include "tools/sample/Sample.h"
-#include "json/JsonWriter.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "tools/reference/Graph.h"
 
-#include "Links.h"
-#include "Lookup.h"
+#include "tools/lookup/Links.h"
+#include "tools/lookup/Lookup.h"
 
 #include <algorithm>
 #include <set>

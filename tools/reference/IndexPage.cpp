@@ -1,7 +1,8 @@
 #include "tools/reference/IndexPage.h"
 
-#include "Console.h"
-#include "Lookup.h"
+#include "text/Phrases.h"
+#include "tools/kiv/Console.h"
+#include "tools/lookup/Lookup.h"
 #include "tools/reference/Graph.h"
 #include "tools/reference/KindWords.h"
 #include "tools/reference/ResourcePage.h"

@@ -1,6 +1,6 @@
 #include "tools/reference/ResourcePage.h"
 
-#include "Lookup.h"
+#include "tools/lookup/Lookup.h"
 #include "tools/reference/Forms.h"
 #include "tools/reference/KindWords.h"
 #include "tools/reference/Snippet.h"

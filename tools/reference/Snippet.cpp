@@ -1,6 +1,6 @@
 #include "tools/reference/Snippet.h"
 
-#include "Lookup.h"
+#include "tools/lookup/Lookup.h"
 #include "tools/sample/Words.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
-#include "Lookup.h"
 #include "commandline/CommandLine.h"
+#include "tools/lookup/Lookup.h"
 #include "tools/reference/Graph.h"
 #include "tools/reference/IndexPage.h"
 

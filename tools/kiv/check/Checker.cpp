@@ -1,10 +1,11 @@
-#include "check/Checker.h"
+#include "tools/kiv/check/Checker.h"
 
-#include "Console.h"
-#include "Lookup.h"
-#include "catalogue/Suggestion.h"
-#include "check/Reading.h"
-#include "walk/ValueWords.h"
+#include "text/Phrases.h"
+#include "text/Suggestion.h"
+#include "tools/kiv/Console.h"
+#include "tools/kiv/check/Reading.h"
+#include "tools/kiv/walk/ValueWords.h"
+#include "tools/lookup/Lookup.h"
 
 #include <algorithm>
 #include <unordered_map>
@@ -147,7 +148,7 @@ void Checker::checkKeys(Path const& path, catalogue::Resource const* resource,
         m_report({isNull ? Fate::Suspect : Fate::Lost, place->keyPosition, key.text(),
                   "no key of " + nameOf(resource),
                   isNull ? "it is passed over, like every null" : "it is passed over",
-                  withoutMark(catalogue::didYouMean(entry.first, known))});
+                  withoutMark(didYouMean(entry.first, known))});
     }
 }
 

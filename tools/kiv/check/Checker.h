@@ -1,8 +1,8 @@
 #pragma once
 
-#include "check/Finding.h"
-#include "walk/ElementWalk.h"
 #include "json/JsonReader.h"
+#include "tools/kiv/check/Finding.h"
+#include "tools/kiv/walk/ElementWalk.h"
 
 #include <functional>
 #include <string>

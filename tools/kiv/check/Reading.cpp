@@ -1,4 +1,4 @@
-#include "check/Reading.h"
+#include "tools/kiv/check/Reading.h"
 
 #include "frame/IObjectBase.h"
 

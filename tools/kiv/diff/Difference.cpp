@@ -1,4 +1,4 @@
-#include "diff/Difference.h"
+#include "tools/kiv/diff/Difference.h"
 
 #include <algorithm>
 

@@ -1,8 +1,9 @@
-#include "schema/Schema.h"
+#include "tools/kiv/schema/Schema.h"
 
-#include "Console.h"
-#include "Lookup.h"
 #include "json/Make.h"
+#include "text/Phrases.h"
+#include "tools/kiv/Console.h"
+#include "tools/lookup/Lookup.h"
 
 #include <algorithm>
 #include <limits>

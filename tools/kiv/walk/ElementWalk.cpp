@@ -1,7 +1,7 @@
-#include "walk/ElementWalk.h"
+#include "tools/kiv/walk/ElementWalk.h"
 
-#include "Lookup.h"
-#include "check/Reading.h"
+#include "tools/kiv/check/Reading.h"
+#include "tools/lookup/Lookup.h"
 
 #include <algorithm>
 #include <vector>

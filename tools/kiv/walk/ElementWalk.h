@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Names.h"
-#include "Path.h"
+#include "text/Path.h"
+#include "tools/lookup/Names.h"
 
 namespace kiv {
 

@@ -1,7 +1,7 @@
-#include "walk/Guard.h"
+#include "tools/kiv/walk/Guard.h"
 
-#include "Failure.h"
-#include "walk/ValueWords.h"
+#include "text/Failure.h"
+#include "tools/kiv/walk/ValueWords.h"
 
 namespace kiv {
 

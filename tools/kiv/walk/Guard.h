@@ -1,7 +1,7 @@
 #pragma once
 
-#include "walk/ElementWalk.h"
 #include "json/JsonReader.h"
+#include "tools/kiv/walk/ElementWalk.h"
 
 #include <string>
 

@@ -1,4 +1,4 @@
-#include "walk/ValueWords.h"
+#include "tools/kiv/walk/ValueWords.h"
 
 namespace kiv {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Names.h"
+#include "tools/lookup/Names.h"
 
 #include <string_view>
 

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "json/Places.h"
+#include "json/Position.h"
+#include "json/PositionedStream.h"
+#include "json/ValueNames.h"
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <string>
+
+/// JSON texts as values: null becomes a null entry, an integer an `Integer`, any other number a
+/// `Float`, and of a repeated key the last value stays.
+///
+/// A text that is no JSON in UTF-8, an integer outside 32 bits, a number too large for a double, a
+/// key with a zero byte, a text of more than 2 GiB, and nesting deeper than `maxDepth` are refused:
+/// the reading operations throw `Failure` with file, line and column. What the source throws passes
+/// through.
+namespace kiv::json {
+
+/// How deep arrays and objects may be nested. The library walks into nested elements by recursion,
+/// and so do the tool and whoever reads its output; this keeps all of them far from the end of a
+/// stack of 8 MiB, in debug and sanitizer builds too.
+inline constexpr std::size_t maxDepth = 1000;
+
+/// An entry of the array at the top of a document.
+struct Entry {
+    std::unique_ptr<data::Value> value; ///< null for null
+    Position position;
+    std::size_t index = 0;
+};
+
+/// Takes one entry after the other. The places are those of the values below the entry, and are
+/// forgotten after the call.
+using EntryHandler = std::function<void(Entry entry, Places const& places)>;
+
+/// A whole document and where its values stand.
+struct Document {
+    std::unique_ptr<data::Value> value; ///< null for null
+    Position position;
+    Places places;
+};
+
+/// Is told of an integer outside 32 bits: its place, its path and its digits. A null takes its
+/// place in the values.
+using WideIntegerHandler =
+    std::function<void(Position position, std::string const& path, std::string const& digits)>;
+
+/// Reads a document and hands over the entries of the array at its top, each as soon as it has
+/// ended; so no more than one is in memory at any time. What it returns is what is left then: the
+/// array without its entries, or the whole of a document that is no array. `file` is the name that
+/// messages use. Without `onWideInteger` such an integer is refused.
+Document readEntries(std::string const& file, ByteSource source, EntryHandler const& handler,
+                     WideIntegerHandler const& onWideInteger = nullptr);
+
+Document readDocument(std::string const& file, ByteSource source);
+
+} // namespace kiv::json

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Guesses at what somebody meant who wrote a name that nobody knows.
+namespace kiv {
+
+/// The known words close to `word`, at most `most` of them, the closest first and equally close
+/// ones in the order of `known`. Close is a typing slip or two, more in long words, or one word
+/// beginning with the other; so the result is often empty.
+std::vector<std::string> nearest(std::string_view word, std::span<std::string_view const> known,
+                                 std::size_t most);
+
+/// The end of a message about an unknown name: `; did you mean 'string' or 'string list'?`, or
+/// nothing if no known word is close.
+std::string didYouMean(std::string_view word, std::span<std::string_view const> known);
+
+} // namespace kiv

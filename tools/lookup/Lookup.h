@@ -1,0 +1,44 @@
+#pragma once
+
+#include "tools/lookup/Names.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Questions to the catalogue that several commands ask.
+namespace kiv {
+
+/// A field and the resource whose element has it.
+struct FieldOf {
+    catalogue::Resource const* resource;
+    catalogue::Field const* field;
+};
+
+/// The resource of that name, `radio/presets`. Throws `Failure` with the nearest names if there is
+/// none.
+catalogue::Resource const& resourceNamed(std::string_view name);
+
+/// The resources of that service. Throws `Failure` with the nearest names if there are none.
+std::vector<catalogue::Resource const*> resourcesOf(std::string_view service);
+
+/// The services, in ascending byte order.
+std::vector<std::string_view> services();
+
+/// The name of a resource as uris spell it, `radio/presets`. Null stands for what is outside the
+/// interface: `external`.
+std::string nameOf(catalogue::Resource const* resource);
+
+/// The field with its resource, `radio/presets.station`.
+std::string nameOf(FieldOf const& place);
+
+/// The targets of a field, by name and in the order of its flags.
+std::vector<std::string> targetNames(catalogue::Field const& field);
+
+/// Whether the field takes an external reference when the uri names none of its other targets.
+bool hasLastResort(catalogue::Field const& field);
+
+/// The fields that may hold an element of `resource`, in the order of the catalogue.
+std::vector<FieldOf> holdersOf(catalogue::Resource const& resource);
+
+} // namespace kiv
