@@ -21,13 +21,13 @@ std::unique_ptr<Value> ExternalResourceObject::serialize(SerializationType type)
         return internal::makeReference(getUri());
     }
     internal::ObjectWriter object(type);
-    if (m_idIsSet) {
+    if (m_id_isSet) {
         object.addString("id", m_id);
     }
-    if (m_nameIsSet) {
+    if (m_name_isSet) {
         object.addString("name", m_name);
     }
-    if (m_uriIsSet) {
+    if (m_uri_isSet) {
         object.addString("uri", m_uri);
     }
     return object.take();
@@ -48,12 +48,12 @@ std::string const& ExternalResourceObject::getId() const
 void ExternalResourceObject::setId(std::string const& value)
 {
     m_id = value;
-    m_idIsSet = true;
+    m_id_isSet = true;
 }
 
 bool ExternalResourceObject::isIdSet() const
 {
-    return m_idIsSet;
+    return m_id_isSet;
 }
 
 std::string const& ExternalResourceObject::getName() const
@@ -64,12 +64,12 @@ std::string const& ExternalResourceObject::getName() const
 void ExternalResourceObject::setName(std::string const& value)
 {
     m_name = value;
-    m_nameIsSet = true;
+    m_name_isSet = true;
 }
 
 bool ExternalResourceObject::isNameSet() const
 {
-    return m_nameIsSet;
+    return m_name_isSet;
 }
 
 std::string const& ExternalResourceObject::getUri() const
@@ -80,12 +80,12 @@ std::string const& ExternalResourceObject::getUri() const
 void ExternalResourceObject::setUri(std::string const& value)
 {
     m_uri = value;
-    m_uriIsSet = true;
+    m_uri_isSet = true;
 }
 
 bool ExternalResourceObject::isUriSet() const
 {
-    return m_uriIsSet;
+    return m_uri_isSet;
 }
 
 ExternalResourceObjectDeserializer::ExternalResourceObjectDeserializer(

@@ -35,11 +35,11 @@ public:
 
 private:
     std::string m_id;
-    bool m_idIsSet = false;
+    bool m_id_isSet = false;
     std::string m_name;
-    bool m_nameIsSet = false;
+    bool m_name_isSet = false;
     std::string m_uri;
-    bool m_uriIsSet = false;
+    bool m_uri_isSet = false;
 };
 
 /// Fills an `ExternalResourceObject` from the value it visits: an object's `id`, `name` and `uri`
