@@ -17,6 +17,18 @@ std::span<Resource const> resources()
     return {table, tableSize};
 }
 
+std::span<Service const> services()
+{
+    return {serviceTable, serviceTableSize};
+}
+
+Service const* findService(std::string_view name)
+{
+    auto const all = services();
+    auto const found = std::ranges::find(all, name, &Service::name);
+    return found != all.end() ? &*found : nullptr;
+}
+
 Resource const* find(std::string_view service, std::string_view resourceKey)
 {
     auto const all = resources();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalogue/Group.h"
 #include "catalogue/Kind.h"
 
 #include <memory>
@@ -27,6 +28,7 @@ struct Accessor {
 struct Field {
     std::string_view key;
     Kind kind;
+    std::string_view note; ///< a sentence on it, or empty where there is nothing to say
     /// What the field may hold, null standing for `ExternalResourceObject`: empty for plain kinds,
     /// one entry for element and external kinds, for polymorphic all in the order of the flags.
     /// The dispatch order is the same without the null.
@@ -41,7 +43,7 @@ struct Resource {
     std::string_view element;      ///< the element class, `PresetObject`
     std::string_view resourceKey;  ///< `presets`
     std::string_view elementKey;   ///< `presetObject`
-    std::string_view about;        ///< what it is for, one or two sentences
+    std::string_view about;        ///< what one element is, one or two sentences
     std::span<Field const> fields; ///< in ascending byte order of keys, `id`, `name`, `uri` too
     /// Makes an empty resource. May throw `std::bad_alloc`.
     std::unique_ptr<common::IResourceBase> (*makeResource)();
@@ -51,6 +53,20 @@ struct Resource {
     /// The field of that key, or null.
     [[nodiscard]] Field const* find(std::string_view key) const;
 };
+
+/// One service.
+struct Service {
+    std::string_view name;               ///< `radio`
+    std::string_view group;              ///< one of `groups`
+    std::string_view about;              ///< what it is for, one or two sentences
+    std::span<Resource const> resources; ///< in the order of all resources
+};
+
+/// All services, in ascending byte order of their names.
+std::span<Service const> services();
+
+/// The service of that name, or null.
+Service const* findService(std::string_view name);
 
 /// All resources, by service and then by class name, in ascending byte order.
 std::span<Resource const> resources();

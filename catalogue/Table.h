@@ -9,5 +9,7 @@ namespace zel::kiv::catalogue {
 
 extern Resource const table[];
 extern std::size_t const tableSize;
+extern Service const serviceTable[];
+extern std::size_t const serviceTableSize;
 
 } // namespace zel::kiv::catalogue

@@ -3,6 +3,7 @@
 #include "generator/Naming.h"
 #include "generator/model/Fields.h"
 #include "generator/model/Forms.h"
+#include "generator/model/Rows.h"
 #include "text/Suggestion.h"
 
 #include <algorithm>
@@ -11,9 +12,11 @@
 namespace kivgen {
 namespace {
 
-constexpr std::array<std::string_view, 5> knownKeys{"element", "about", "fields", "resource_key",
-                                                    "element_key"};
+constexpr std::array<std::string_view, 6> knownKeys{"element", "about",        "fields",
+                                                    "notes",   "resource_key", "element_key"};
 constexpr std::size_t longestAbout = 400; // bytes
+constexpr std::size_t longestNote = 300;
+constexpr auto saysOfAbout = "it says in a sentence or two what one element is";
 
 /// Reads the rows above the fields.
 class Reader {
@@ -25,33 +28,20 @@ public:
 private:
     void readElement(Entry const& entry);
     void readAbout(Entry const& entry);
+    void readNotes(Entry const& entry);
     void readOverride(Entry const& entry, std::string_view className, std::string& key);
-    bool isText(Entry const& entry);
     void fail(Place const& place, std::string text) { faults_.push_back({place, std::move(text)}); }
 
     Definition& definition_;
     Faults& faults_;
 };
 
-Entry const* find(Node const& table, std::string_view key)
-{
-    auto const found = std::ranges::find(table.table, key, &Entry::key);
-    return found == table.table.end() ? nullptr : &*found;
-}
-
 void Reader::read(Node const& document)
 {
-    for (Entry const& entry : document.table) {
-        if (std::ranges::find(knownKeys, entry.key) != knownKeys.end()) {
-            continue;
-        }
-        auto const meant = kiv::didYouMean(entry.key, knownKeys);
-        fail(entry.place,
-             "unknown key " + inQuotes(entry.key) +
-                 (meant.empty() ? "; a definition has 'element', 'about', [fields] and "
-                                  "at need 'resource_key' and 'element_key'"
-                                : meant));
-    }
+    checkKeys(document, knownKeys,
+              "; a definition has 'element', 'about', [fields] and at need [notes], "
+              "'resource_key' and 'element_key'",
+              faults_);
     auto& resource = definition_.resource;
     if (auto const* const element = find(document, "element")) {
         readElement(*element);
@@ -62,7 +52,7 @@ void Reader::read(Node const& document)
     if (auto const* const about = find(document, "about")) {
         readAbout(*about);
     } else {
-        fail(resource.place, "'about' is missing; it says in a sentence what the resource is for");
+        fail(resource.place, std::string{"'about' is missing; "} + saysOfAbout);
     }
     resource.resourceKey = lowered(resource.name);
     if (auto const* const key = find(document, "resource_key")) {
@@ -79,24 +69,18 @@ void Reader::read(Node const& document)
         fail(resource.place, "[fields] is missing; it stands empty if the element has no fields "
                              "but id, name and uri");
     }
-}
-
-bool Reader::isText(Entry const& entry)
-{
-    if (entry.value.type == Node::Type::Text) {
-        return true;
+    if (auto const* const notes = find(document, "notes")) {
+        readNotes(*notes);
     }
-    fail(entry.value.place,
-         inQuotes(entry.key) + " takes a string, not " + std::string{entry.value.typeName});
-    return false;
 }
 
 void Reader::readElement(Entry const& entry)
 {
-    if (!isText(entry)) {
+    auto const* const text = textOf(entry, faults_);
+    if (text == nullptr) {
         return;
     }
-    auto const& name = entry.value.text;
+    auto const& name = *text;
     definition_.resource.element = name;
     auto const shown = "the element class " + inQuotes(name);
     if (!hasClassForm(name)) {
@@ -114,31 +98,43 @@ void Reader::readElement(Entry const& entry)
 
 void Reader::readAbout(Entry const& entry)
 {
-    if (!isText(entry)) {
+    auto about = readProse(entry, {"'about'", saysOfAbout, longestAbout}, faults_);
+    definition_.resource.about = about.text;
+    definition_.prose.push_back(std::move(about));
+}
+
+void Reader::readNotes(Entry const& entry)
+{
+    if (!isTable(entry, faults_)) {
         return;
     }
-    auto const& about = entry.value.text;
-    definition_.resource.about = about;
-    if (about.find_first_not_of(' ') == std::string::npos) {
-        fail(entry.value.place, "'about' is empty; it says in a sentence what the resource is for");
-    } else if (about.size() > longestAbout) {
-        fail(entry.value.place, "'about' has " + std::to_string(about.size()) +
-                                    " bytes; keep it to one or two sentences, at most " +
-                                    std::to_string(longestAbout));
-    } else if (printable(about) != about || about.find('\\') != std::string::npos) {
-        // It becomes a comment, where a backslash at the end would swallow the next line.
-        fail(entry.value.place, "'about' must be one line without backslashes and characters that "
-                                "cannot be seen: " +
-                                    inQuotes(about));
+    checkOrder(entry.value, faults_);
+    std::vector<std::string_view> const keys{definition_.keys.begin(), definition_.keys.end()};
+    for (Entry const& row : entry.value.table) {
+        auto const shown = inQuotes(row.key);
+        if (std::ranges::find(keys, row.key) == keys.end()) {
+            fail(row.place, "a note on " + shown + ", which is no key of this element" +
+                                kiv::didYouMean(row.key, keys));
+        }
+        auto note = readProse(
+            row, {"the note on " + shown, "it says in a sentence what the field is", longestNote},
+            faults_);
+        auto& fields = definition_.resource.fields;
+        auto const field = std::ranges::find(fields, row.key, &Field::key);
+        if (field != fields.end()) { // else its row is faulty, or it has none
+            field->note = note.text;
+        }
+        definition_.prose.push_back(std::move(note));
     }
 }
 
 void Reader::readOverride(Entry const& entry, std::string_view className, std::string& key)
 {
-    if (!isText(entry)) {
+    auto const* const text = textOf(entry, faults_);
+    if (text == nullptr) {
         return;
     }
-    auto const& given = entry.value.text;
+    auto const& given = *text;
     if (!hasKeyForm(given)) {
         fail(entry.value.place,
              "the key " + inQuotes(given) + " must be a letter, then letters and digits");
@@ -149,10 +145,12 @@ void Reader::readOverride(Entry const& entry, std::string_view className, std::s
     key = given;
 }
 
-void addImplied(Resource& resource)
+void addImplied(Definition& definition)
 {
     for (auto const* const key : {"id", "name", "uri"}) {
-        resource.fields.push_back({key, Kind::String, {}, resource.place});
+        definition.keys.emplace_back(key);
+        definition.resource.fields.push_back(
+            {key, Kind::String, {}, definition.resource.place, {}});
     }
 }
 
@@ -167,8 +165,8 @@ Definition readDefinition(Node const& document, std::string const& service, std:
     resource.service = service;
     resource.name = name;
     resource.place = file;
+    addImplied(definition);
     Reader{definition, faults}.read(document);
-    addImplied(resource);
     std::ranges::sort(resource.fields, {}, &Field::key);
     return definition;
 }

@@ -2,6 +2,7 @@
 
 #include "generator/model/Document.h"
 #include "generator/model/Fault.h"
+#include "generator/model/Prose.h"
 
 #include <string>
 #include <vector>
@@ -17,8 +18,10 @@ struct Use {
 /// What one file says.
 struct Definition {
     Resource resource;
-    std::vector<Use> uses; ///< all targets but external ones
-    Place placeOfKey;      ///< where `resource_key` is given, or the file as a whole
+    std::vector<Use> uses;         ///< all targets but external ones
+    Place placeOfKey;              ///< where `resource_key` is given, or the file as a whole
+    std::vector<std::string> keys; ///< of all fields, also of those whose row is faulty
+    std::vector<Prose> prose;      ///< what it says to people
 };
 
 /// Takes a definition out of the table of its file, `id`, `name` and `uri` added. Whatever is wrong

@@ -1,6 +1,7 @@
 #include "generator/model/Fields.h"
 
 #include "generator/model/Forms.h"
+#include "generator/model/Rows.h"
 #include "text/Suggestion.h"
 
 #include <algorithm>
@@ -22,9 +23,9 @@ public:
     Reader(Definition& definition, Faults& faults) : definition_{definition}, faults_{faults} {}
 
     void readRow(Entry const& row);
-    void fail(Place const& place, std::string text) { faults_.push_back({place, std::move(text)}); }
 
 private:
+    void fail(Place const& place, std::string text) { faults_.push_back({place, std::move(text)}); }
     bool isKey(Entry const& row);
     void readWord(Node const& value, Field field);
     void readTable(Node const& value, Field field);
@@ -74,7 +75,7 @@ void Reader::readRow(Entry const& row)
     if (!isKey(row)) {
         return;
     }
-    Field field{row.key, Kind::String, {}, row.place};
+    Field field{row.key, Kind::String, {}, row.place, {}};
     if (row.value.type == Node::Type::Text) {
         readWord(row.value, std::move(field));
     } else if (row.value.type == Node::Type::Table) {
@@ -208,19 +209,13 @@ void Reader::readTargets(Node const& value, Field& field)
 
 void readFields(Entry const& fields, Definition& definition, Faults& faults)
 {
-    Reader reader{definition, faults};
-    if (fields.value.type != Node::Type::Table) {
-        reader.fail(fields.value.place,
-                    "'fields' takes a table, not " + std::string{fields.value.typeName});
+    if (!isTable(fields, faults)) {
         return;
     }
-    Entry const* previous = nullptr;
+    checkOrder(fields.value, faults);
+    Reader reader{definition, faults};
     for (Entry const& row : fields.value.table) {
-        if (previous != nullptr && row.key < previous->key) {
-            reader.fail(row.place, inQuotes(row.key) + " stands after " + inQuotes(previous->key) +
-                                       "; rows stand in ascending byte order of their keys");
-        }
-        previous = &row;
+        definition.keys.push_back(row.key);
         reader.readRow(row);
     }
 }

@@ -5,6 +5,8 @@
 #include "generator/model/Definition.h"
 #include "generator/model/Document.h"
 #include "generator/model/Forms.h"
+#include "generator/model/ProseNames.h"
+#include "generator/model/ServiceFile.h"
 
 #include <algorithm>
 #include <optional>
@@ -32,12 +34,17 @@ public:
 private:
     std::vector<Item> itemsOf(Item const& folder);
     void loadService(Item const& folder);
+    void loadServiceFile(std::string const& service, Item const& file);
     void loadDefinition(std::string const& service, Item const& file);
     void checkServiceName(Item const& folder);
     void checkResourceName(std::string const& name, Item const& file);
     void fail(Item const& item, std::string text);
 
+    void checkWhole(Interface const& interface);
+    void checkFilesOf(Item const& folder, std::vector<Item> const& items);
+
     std::vector<Definition> definitions_;
+    std::vector<ServiceFile> services_;
     std::vector<std::string> names_; ///< of all definitions that have a file, also a faulty one
     Faults faults_;
 };
@@ -119,10 +126,31 @@ void Loader::loadDefinition(std::string const& service, Item const& file)
     }
 }
 
+void Loader::loadServiceFile(std::string const& service, Item const& file)
+{
+    if (auto const document = readDocument(file.path, file.shown, faults_)) {
+        services_.push_back(readServiceFile(*document, service, {file.shown}, faults_));
+    }
+}
+
+void Loader::checkFilesOf(Item const& folder, std::vector<Item> const& items)
+{
+    bool const hasOwn = std::ranges::find(items, serviceFileName, &Item::name) != items.end();
+    if (!hasOwn && !items.empty()) {
+        fail(folder,
+             "has no service.toml; it says what the service is for: about = \"...\", and of "
+             "which group it is: group = \"system\"");
+    } else if (hasOwn && items.size() == 1) {
+        fail(folder, "has no definition beside service.toml; a service has a resource or more");
+    }
+}
+
 void Loader::loadService(Item const& folder)
 {
     checkServiceName(folder);
-    for (Item const& item : itemsOf(folder)) {
+    auto const items = itemsOf(folder);
+    checkFilesOf(folder, items);
+    for (Item const& item : items) {
         std::error_code error;
         auto const status = fs::status(item.path, error);
         if (fs::is_directory(status)) {
@@ -132,6 +160,8 @@ void Loader::loadService(Item const& folder)
         } else if (!fs::is_regular_file(status)) {
             // A pipe or a device, which might never come to an end, or a link that leads nowhere.
             fail(item, "cannot be read: " + (error ? error.message() : "not a regular file"));
+        } else if (item.name == serviceFileName) {
+            loadServiceFile(folder.name, item);
         } else {
             loadDefinition(folder.name, item);
         }
@@ -159,16 +189,27 @@ Loaded Loader::load(fs::path const& folder)
     for (Definition const& definition : definitions_) {
         interface.resources.push_back(definition.resource);
     }
+    for (ServiceFile const& file : services_) {
+        interface.services.push_back(file.service);
+    }
     std::ranges::sort(interface.resources, {},
                       [](Resource const& one) { return std::tie(one.service, one.name); });
+    std::ranges::sort(interface.services, {}, &Service::name);
+    checkWhole(interface);
+    return {std::move(interface), std::move(faults_)};
+}
+
+/// What can only be seen when all files are known.
+void Loader::checkWhole(Interface const& interface)
+{
     std::ranges::sort(names_);
     checkTargets(definitions_, names_, faults_);
     checkResourceKeys(definitions_, faults_);
     checkAccessors(interface, faults_);
+    checkProseNames(definitions_, services_, names_, faults_);
     std::ranges::stable_sort(faults_, {}, [](Fault const& one) {
         return std::tie(one.place.file, one.place.line, one.place.column, one.text);
     });
-    return {std::move(interface), std::move(faults_)};
 }
 
 } // namespace

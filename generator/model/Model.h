@@ -32,6 +32,7 @@ struct Field {
     Kind kind = Kind::String;
     std::vector<Target> targets; ///< one for element kinds, several in flag order for polymorphic
     Place place;
+    std::string note; ///< what there is to say of it, mostly empty
 };
 
 /// One resource and its element.
@@ -41,14 +42,23 @@ struct Resource {
     std::string element; ///< the element class, `PresetObject`
     std::string resourceKey;
     std::string elementKey;
-    std::string about;
+    std::string about;         ///< what one element is
     std::vector<Field> fields; ///< all of them, `id`, `name` and `uri` too, in byte order of keys
     Place place;
 };
 
-/// Everything: the resources by service, then by class name, in byte order.
+/// One service.
+struct Service {
+    std::string name;
+    std::string about; ///< what it is for
+    std::string group; ///< one of the catalogue's `groups`
+    Place place;
+};
+
+/// Everything: the resources by service, then by class name, and the services, in byte order.
 struct Interface {
     std::vector<Resource> resources;
+    std::vector<Service> services;
 
     /// The resource of that service and class name, or null.
     [[nodiscard]] Resource const* find(std::string const& service, std::string const& name) const;

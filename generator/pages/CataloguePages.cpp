@@ -40,6 +40,12 @@ $rows$
 
 std::size_t const tableSize = $size$;
 
+Service const serviceTable[$services$] = {
+$serviceRows$
+};
+
+std::size_t const serviceTableSize = $services$;
+
 } // namespace zel::kiv::catalogue
 )";
 
@@ -190,6 +196,16 @@ std::string resourceRow(Resource const& resource, std::string const& fields)
            ", &make::" + word + ", &make::" + word + "Element},\n";
 }
 
+std::string serviceRow(Service const& service, Interface const& interface)
+{
+    auto const& all = interface.resources;
+    auto const begin = std::ranges::lower_bound(all, service.name, {}, &Resource::service);
+    auto const end = std::ranges::upper_bound(all, service.name, {}, &Resource::service);
+    return "    {" + literal(service.name) + ", " + literal(service.group) + ", " +
+           literal(service.about) + ", {table + " + std::to_string(begin - all.begin()) + ", " +
+           std::to_string(end - begin) + "}},\n";
+}
+
 } // namespace
 
 Page cataloguePage(Interface const& interface)
@@ -204,10 +220,15 @@ Page cataloguePage(Interface const& interface)
         std::vector<std::string> ownFields;
         for (Field const& field : resource.fields) {
             ownFields.push_back("{" + literal(field.key) + ", " + enumeratorOf(field.kind) + ", " +
+                                literal(field.note) + ", " +
                                 targets.add(targetRows(field, interface)) + ", " +
                                 accessors.add(accessorRows(field, interface)) + "}");
         }
         rows += resourceRow(resource, fields.add(ownFields));
+    }
+    std::string serviceRows;
+    for (Service const& service : interface.services) {
+        serviceRows += serviceRow(service, interface);
     }
     return {"catalogue/Table.cpp",
             fill(table, {{"mark", generatedMark},
@@ -216,7 +237,9 @@ Page cataloguePage(Interface const& interface)
                          {"targets", targets.text()},
                          {"fields", fields.text()},
                          {"size", std::to_string(interface.resources.size())},
-                         {"rows", rows}})};
+                         {"rows", rows},
+                         {"services", std::to_string(interface.services.size())},
+                         {"serviceRows", serviceRows}})};
 }
 
 Page makersPage(std::string const& service, Interface const& interface)

@@ -63,6 +63,8 @@ protected:
     void writeSound(std::string const& name) const
     {
         write(name, "element = \"SoundObject\"\nabout = \"Sound.\"\n[fields]\n");
+        write(fs::path(name).parent_path() / "service.toml",
+              "about = \"Sound.\"\ngroup = \"system\"\n");
     }
 
     [[nodiscard]] std::string messages() const { return messagesOf(services()); }
@@ -169,6 +171,7 @@ TEST_F(LoaderOnDisk, BearsSizeAndDepth)
         good += key + " = { element = \"radio::Sounds\" }\n";
         bad += key + " = \"imt\"\n";
     }
+    writeSound("radio/Sounds.toml");
     write("radio/Sounds.toml", good);
     auto const loaded = kivgen::load(services());
     ASSERT_TRUE(loaded.faults.empty()) << toMessage(loaded.faults.front());

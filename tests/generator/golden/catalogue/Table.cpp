@@ -82,28 +82,28 @@ constexpr Resource const* const targets[] = {
 };
 
 constexpr Field fields[] = {
-    {"SPIN", Kind::String, {}, {accessors + 0, 3}},
-    {"count", Kind::Int, {}, {accessors + 3, 3}},
-    {"countries", Kind::StringList, {}, {accessors + 6, 3}},
-    {"delete", Kind::Bool, {}, {accessors + 9, 3}},
-    {"frequencies", Kind::IntList, {}, {accessors + 12, 3}},
-    {"id", Kind::String, {}, {accessors + 15, 3}},
-    {"level", Kind::Double, {}, {accessors + 18, 3}},
-    {"name", Kind::String, {}, {accessors + 21, 3}},
-    {"next", Kind::Element, {targets + 0, 1}, {accessors + 24, 3}},
-    {"operator", Kind::String, {}, {accessors + 27, 3}},
-    {"origin", Kind::External, {targets + 1, 1}, {accessors + 30, 3}},
-    {"origins", Kind::ExternalList, {targets + 1, 1}, {accessors + 33, 3}},
-    {"reference", Kind::Polymorphic, {targets + 2, 3}, {accessors + 36, 7}},
-    {"stations", Kind::ElementList, {targets + 5, 1}, {accessors + 43, 3}},
-    {"uri", Kind::String, {}, {accessors + 46, 3}},
-    {"id", Kind::String, {}, {accessors + 15, 3}},
-    {"name", Kind::String, {}, {accessors + 21, 3}},
-    {"presets", Kind::ElementList, {targets + 0, 1}, {accessors + 49, 3}},
-    {"uri", Kind::String, {}, {accessors + 46, 3}},
-    {"id", Kind::String, {}, {accessors + 15, 3}},
-    {"name", Kind::String, {}, {accessors + 21, 3}},
-    {"uri", Kind::String, {}, {accessors + 46, 3}},
+    {"SPIN", Kind::String, "", {}, {accessors + 0, 3}},
+    {"count", Kind::Int, "How many there are. It is said in a sentence that is too long for one line of a comment: 20 °C.", {}, {accessors + 3, 3}},
+    {"countries", Kind::StringList, "", {}, {accessors + 6, 3}},
+    {"delete", Kind::Bool, "", {}, {accessors + 9, 3}},
+    {"frequencies", Kind::IntList, "", {}, {accessors + 12, 3}},
+    {"id", Kind::String, "Its number, not its `name`.", {}, {accessors + 15, 3}},
+    {"level", Kind::Double, "", {}, {accessors + 18, 3}},
+    {"name", Kind::String, "", {}, {accessors + 21, 3}},
+    {"next", Kind::Element, "", {targets + 0, 1}, {accessors + 24, 3}},
+    {"operator", Kind::String, "", {}, {accessors + 27, 3}},
+    {"origin", Kind::External, "", {targets + 1, 1}, {accessors + 30, 3}},
+    {"origins", Kind::ExternalList, "", {targets + 1, 1}, {accessors + 33, 3}},
+    {"reference", Kind::Polymorphic, "A clock of `time::Clocks`, a preset, or an `ExternalResourceObject`; `PresetObject`s have `next` too.", {targets + 2, 3}, {accessors + 36, 7}},
+    {"stations", Kind::ElementList, "", {targets + 5, 1}, {accessors + 43, 3}},
+    {"uri", Kind::String, "", {}, {accessors + 46, 3}},
+    {"id", Kind::String, "", {}, {accessors + 15, 3}},
+    {"name", Kind::String, "", {}, {accessors + 21, 3}},
+    {"presets", Kind::ElementList, "", {targets + 0, 1}, {accessors + 49, 3}},
+    {"uri", Kind::String, "", {}, {accessors + 46, 3}},
+    {"id", Kind::String, "", {}, {accessors + 15, 3}},
+    {"name", Kind::String, "", {}, {accessors + 21, 3}},
+    {"uri", Kind::String, "", {}, {accessors + 46, 3}},
 };
 
 } // namespace
@@ -115,5 +115,12 @@ Resource const table[3] = {
 };
 
 std::size_t const tableSize = 3;
+
+Service const serviceTable[2] = {
+    {"radio", "audio and media", "A radio for the tests, which counts `presets` in `radio::Stations`.", {table + 0, 2}},
+    {"time", "system", "Clocks.", {table + 2, 1}},
+};
+
+std::size_t const serviceTableSize = 2;
 
 } // namespace zel::kiv::catalogue

@@ -1,0 +1,143 @@
+#include "generator/model/ProseNames.h"
+
+#include "text/Suggestion.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <string_view>
+
+namespace kivgen {
+namespace {
+
+constexpr std::array<std::string_view, 5> frameNames{
+    "ElementStatus", "ExternalResourceObject", "IObjectBase", "IResourceBase", "SerializationType"};
+constexpr std::size_t mostSuggestions = 100; // each takes a look at every name
+
+/// Every name that holds everywhere, with the definition that it stands for: null for a service, a
+/// class of the frame, and a resource whose file cannot be read.
+using Names = std::map<std::string, Definition const*, std::less<>>;
+
+class Check {
+public:
+    Check(std::vector<Definition> const& definitions, std::vector<ServiceFile> const& services,
+          std::vector<std::string> const& files, Faults& faults);
+
+    /// `own` is null in the text of a service.
+    void check(Prose const& prose, std::string const& service, Definition const* own);
+
+private:
+    void fail(Prose const& prose, std::string const& name, Names const& names,
+              Definition const* own);
+    [[nodiscard]] std::string ownerOf(std::string const& key) const;
+
+    std::vector<Definition> const& definitions_;
+    Faults& faults_;
+    Names everywhere_;
+    std::map<std::string, Names> local_; ///< by service: its resources and elements
+    std::size_t wrong_ = 0;
+};
+
+bool hasKey(Definition const& definition, std::string const& key)
+{
+    return std::ranges::find(definition.keys, key) != definition.keys.end();
+}
+
+Check::Check(std::vector<Definition> const& definitions, std::vector<ServiceFile> const& services,
+             std::vector<std::string> const& files, Faults& faults)
+    : definitions_{definitions}, faults_{faults}
+{
+    for (Definition const& definition : definitions) {
+        Resource const& resource = definition.resource;
+        auto const name = resource.service + "::" + resource.name;
+        everywhere_.emplace(name, &definition);
+        everywhere_.emplace(name + "::" + resource.element, &definition);
+        everywhere_.emplace(resource.service + "/" + resource.resourceKey, &definition);
+        local_[resource.service].emplace(resource.name, &definition);
+        local_[resource.service].emplace(resource.element, &definition);
+    }
+    for (ServiceFile const& file : services) {
+        everywhere_.emplace(file.service.name, nullptr);
+    }
+    for (auto const name : frameNames) {
+        everywhere_.emplace(name, nullptr);
+    }
+    for (std::string const& file : files) {
+        everywhere_.emplace(file, nullptr); // unless it is there already
+    }
+}
+
+void Check::check(Prose const& prose, std::string const& service, Definition const* own)
+{
+    auto const& local = local_[service];
+    std::vector<Definition const*> scope;
+    std::vector<std::string const*> rest;
+    for (std::string const& name : prose.names) {
+        auto const& names = local.contains(name) ? local : everywhere_;
+        if (auto const found = names.find(name); found != names.end()) {
+            scope.push_back(found->second);
+        } else {
+            rest.push_back(&name);
+        }
+    }
+    scope.push_back(own);
+    for (std::string const* const name : rest) {
+        bool const isKey = std::ranges::any_of(scope, [name](Definition const* definition) {
+            return definition != nullptr && hasKey(*definition, *name);
+        });
+        if (!isKey) {
+            fail(prose, *name, local, own);
+        }
+    }
+}
+
+std::string Check::ownerOf(std::string const& key) const
+{
+    auto const owner = std::ranges::find_if(
+        definitions_, [&](Definition const& definition) { return hasKey(definition, key); });
+    return owner == definitions_.end() ? "" : owner->resource.service + "::" + owner->resource.name;
+}
+
+void Check::fail(Prose const& prose, std::string const& name, Names const& names,
+                 Definition const* own)
+{
+    auto text = "there is no " + inQuotes(name) + " to name in backticks";
+    if (auto const owner = ownerOf(name); !owner.empty()) {
+        text = inQuotes(name) +
+               " is a key of another element; a text that names it names its "
+               "resource too, such as " +
+               inQuotes(owner);
+    } else if (++wrong_ <= mostSuggestions) {
+        std::vector<std::string_view> known;
+        if (own != nullptr) {
+            known.assign(own->keys.begin(), own->keys.end());
+        }
+        for (Names const* const each : {&names, static_cast<Names const*>(&everywhere_)}) {
+            for (auto const& [one, definition] : *each) {
+                known.emplace_back(one);
+            }
+        }
+        // A file whose name is refused is a name here too, with whatever bytes it has.
+        text += printable(kiv::didYouMean(name, known));
+    }
+    faults_.push_back({prose.place, std::move(text)});
+}
+
+} // namespace
+
+void checkProseNames(std::vector<Definition> const& definitions,
+                     std::vector<ServiceFile> const& services,
+                     std::vector<std::string> const& files, Faults& faults)
+{
+    Check check{definitions, services, files, faults};
+    for (Definition const& definition : definitions) {
+        for (Prose const& prose : definition.prose) {
+            check.check(prose, definition.resource.service, &definition);
+        }
+    }
+    for (ServiceFile const& file : services) {
+        check.check(file.about, file.service.name, nullptr);
+    }
+}
+
+} // namespace kivgen
