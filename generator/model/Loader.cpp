@@ -1,18 +1,12 @@
 #include "generator/model/Loader.h"
 
-#include "generator/Naming.h"
-#include "generator/model/Checks.h"
-#include "generator/model/Definition.h"
+#include "generator/model/Collection.h"
 #include "generator/model/Document.h"
-#include "generator/model/Forms.h"
-#include "generator/model/ProseNames.h"
-#include "generator/model/ServiceFile.h"
 
 #include <algorithm>
-#include <optional>
 #include <system_error>
-#include <tuple>
 #include <utility>
+#include <vector>
 
 namespace kivgen {
 namespace {
@@ -29,24 +23,17 @@ struct Item {
 /// Collects definitions folder by folder.
 class Loader {
 public:
-    Loaded load(fs::path const& folder);
+    Loaded load(fs::path const& folder, std::string const& shown);
 
 private:
     std::vector<Item> itemsOf(Item const& folder);
     void loadService(Item const& folder);
     void loadServiceFile(std::string const& service, Item const& file);
     void loadDefinition(std::string const& service, Item const& file);
-    void checkServiceName(Item const& folder);
-    void checkResourceName(std::string const& name, Item const& file);
+    void checkFilesOf(Item const& folder, std::vector<Item> const& items);
     void fail(Item const& item, std::string text);
 
-    void checkWhole(Interface const& interface);
-    void checkFilesOf(Item const& folder, std::vector<Item> const& items);
-
-    std::vector<Definition> definitions_;
-    std::vector<ServiceFile> services_;
-    std::vector<std::string> names_; ///< of all definitions that have a file, also a faulty one
-    Faults faults_;
+    Collection m_collection;
 };
 
 bool isLeftover(std::string const& name)
@@ -55,7 +42,7 @@ bool isLeftover(std::string const& name)
            (name.starts_with('#') && name.ends_with('#'));
 }
 
-Item topItem(fs::path const& folder)
+Item topItem(fs::path const& folder, std::string const& shown)
 {
     std::error_code error;
     auto path = fs::absolute(folder, error).lexically_normal();
@@ -63,12 +50,12 @@ Item topItem(fs::path const& folder)
         path = path.parent_path(); // it ended in a slash
     }
     auto const name = path.filename().string();
-    return {folder, name, printable(name)};
+    return {folder, name, printable(shown.empty() ? name : shown)};
 }
 
 void Loader::fail(Item const& item, std::string text)
 {
-    faults_.push_back({{item.shown}, std::move(text)});
+    m_collection.faults().push_back({{item.shown}, std::move(text)});
 }
 
 std::vector<Item> Loader::itemsOf(Item const& folder)
@@ -92,45 +79,17 @@ std::vector<Item> Loader::itemsOf(Item const& folder)
     return items;
 }
 
-void Loader::checkServiceName(Item const& folder)
-{
-    if (!hasServiceForm(folder.name)) {
-        fail(folder, "the service name " + inQuotes(folder.name) +
-                         " must be lower-case letters and digits, a letter first");
-    } else if (isReservedService(folder.name)) {
-        fail(folder, "the service name " + inQuotes(folder.name) +
-                         " is a word that the generated code needs; take another");
-    }
-}
-
-void Loader::checkResourceName(std::string const& name, Item const& file)
-{
-    if (!hasClassForm(name)) {
-        auto const raised = stemOf(name);
-        fail(file, "the resource class " + inQuotes(name) +
-                       " must begin with a capital and go on with letters and digits" +
-                       (hasClassForm(raised) ? "; did you mean " + inQuotes(raised) + "?" : ""));
-    } else if (isReservedClass(name)) {
-        fail(file, "the resource class " + inQuotes(name) +
-                       " has a name that the generated code needs; take another");
-    }
-}
-
 void Loader::loadDefinition(std::string const& service, Item const& file)
 {
     auto const name = fs::path{file.name}.stem().string();
-    checkResourceName(name, file);
-    names_.push_back(service + "::" + name);
-    if (auto const document = readDocument(file.path, file.shown, faults_)) {
-        definitions_.push_back(readDefinition(*document, service, name, {file.shown}, faults_));
-    }
+    auto const document = readDocument(file.path, file.shown, m_collection.faults());
+    m_collection.addDefinition(document, service, name, {file.shown});
 }
 
 void Loader::loadServiceFile(std::string const& service, Item const& file)
 {
-    if (auto const document = readDocument(file.path, file.shown, faults_)) {
-        services_.push_back(readServiceFile(*document, service, {file.shown}, faults_));
-    }
+    auto const document = readDocument(file.path, file.shown, m_collection.faults());
+    m_collection.addService(document, service, {file.shown});
 }
 
 void Loader::checkFilesOf(Item const& folder, std::vector<Item> const& items)
@@ -147,7 +106,7 @@ void Loader::checkFilesOf(Item const& folder, std::vector<Item> const& items)
 
 void Loader::loadService(Item const& folder)
 {
-    checkServiceName(folder);
+    m_collection.checkServiceName(folder.name, {folder.shown});
     auto const items = itemsOf(folder);
     checkFilesOf(folder, items);
     for (Item const& item : items) {
@@ -168,9 +127,9 @@ void Loader::loadService(Item const& folder)
     }
 }
 
-Loaded Loader::load(fs::path const& folder)
+Loaded Loader::load(fs::path const& folder, std::string const& shown)
 {
-    auto const top = topItem(folder);
+    auto const top = topItem(folder, shown);
     for (Item const& item : itemsOf(top)) {
         std::error_code error;
         if (fs::is_directory(item.path, error)) {
@@ -181,42 +140,18 @@ Loaded Loader::load(fs::path const& folder)
                            top.shown + "/<service>/<Resource>.toml");
         }
     }
-    if (names_.empty() && faults_.empty()) {
+    if (m_collection.isEmpty() && m_collection.faults().empty()) {
         fail(top,
              "there are no definitions; one lies in " + top.shown + "/<service>/<Resource>.toml");
     }
-    Interface interface;
-    for (Definition const& definition : definitions_) {
-        interface.resources.push_back(definition.resource);
-    }
-    for (ServiceFile const& file : services_) {
-        interface.services.push_back(file.service);
-    }
-    std::ranges::sort(interface.resources, {},
-                      [](Resource const& one) { return std::tie(one.service, one.name); });
-    std::ranges::sort(interface.services, {}, &Service::name);
-    checkWhole(interface);
-    return {std::move(interface), std::move(faults_)};
-}
-
-/// What can only be seen when all files are known.
-void Loader::checkWhole(Interface const& interface)
-{
-    std::ranges::sort(names_);
-    checkTargets(definitions_, names_, faults_);
-    checkResourceKeys(definitions_, faults_);
-    checkAccessors(interface, faults_);
-    checkProseNames(definitions_, services_, names_, faults_);
-    std::ranges::stable_sort(faults_, {}, [](Fault const& one) {
-        return std::tie(one.place.file, one.place.line, one.place.column, one.text);
-    });
+    return m_collection.finish();
 }
 
 } // namespace
 
-Loaded load(fs::path const& servicesFolder)
+Loaded load(fs::path const& servicesFolder, std::string const& shown)
 {
-    return Loader{}.load(servicesFolder);
+    return Loader{}.load(servicesFolder, shown);
 }
 
 } // namespace kivgen

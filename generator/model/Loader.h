@@ -4,6 +4,7 @@
 #include "generator/model/Model.h"
 
 #include <filesystem>
+#include <string>
 
 namespace kivgen {
 
@@ -19,6 +20,8 @@ struct Loaded {
 /// Every other file in these folders is a fault, since it may well be a definition that is misnamed
 /// and would be missed. Only what tools leave beside the files that somebody works on is passed
 /// over: names that begin with a dot, that end in `~`, and that stand between two `#`.
-Loaded load(std::filesystem::path const& servicesFolder);
+///
+/// Places and messages name the folder as `shown` says, or by its own name alone.
+Loaded load(std::filesystem::path const& servicesFolder, std::string const& shown = {});
 
 } // namespace kivgen
