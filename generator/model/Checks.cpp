@@ -1,7 +1,7 @@
 #include "generator/model/Checks.h"
 
 #include "generator/Naming.h"
-#include "generator/model/Forms.h"
+#include "generator/model/Spelling.h"
 #include "text/Suggestion.h"
 
 #include <algorithm>
@@ -22,42 +22,43 @@ public:
     [[nodiscard]] std::string whatIsWrong(std::string const& target) const;
 
 private:
-    std::vector<std::string_view> names_;
-    std::unordered_map<std::string, std::string> resourceOf_; ///< by spellings of element classes
+    std::vector<std::string_view> m_names;
+    std::unordered_map<std::string, std::string> m_resourceOf; ///< by spellings of element classes
 };
 
 TargetCheck::TargetCheck(std::vector<Definition> const& definitions,
                          std::vector<std::string> const& names)
-    : names_{names.begin(), names.end()}
+    : m_names{names.begin(), names.end()}
 {
     for (Definition const& definition : definitions) {
         Resource const& resource = definition.resource;
         auto const name = resource.service + "::" + resource.name;
-        resourceOf_.emplace(name + "::" + resource.element, name);
-        resourceOf_.emplace(resource.service + "::" + resource.element, name);
+        m_resourceOf.emplace(name + "::" + resource.element, name);
+        m_resourceOf.emplace(resource.service + "::" + resource.element, name);
     }
 }
 
 bool TargetCheck::exists(std::string const& target) const
 {
-    return std::ranges::binary_search(names_, target);
+    return std::ranges::binary_search(m_names, target);
 }
 
 std::string TargetCheck::whatIsWrong(std::string const& target) const
 {
-    if (auto const found = resourceOf_.find(target); found != resourceOf_.end()) {
+    if (auto const found = m_resourceOf.find(target); found != m_resourceOf.end()) {
         return inQuotes(target) + " names an element class; a target is named by its resource, " +
                inQuotes(found->second);
     }
     // A file whose name is refused is a name here too, with whatever bytes it has.
-    auto const meant = printable(kiv::didYouMean(target, names_));
+    auto const meant = printable(kiv::didYouMean(target, m_names));
     if (target.find("::") != std::string::npos) {
         return "there is no resource " + inQuotes(target) + meant;
     }
     auto const text = inQuotes(target) + " is no target; a target is spelt service::Resource";
     auto const named =
-        std::ranges::find_if(names_, [&](auto name) { return name.ends_with("::" + target); });
-    return named == names_.end() ? text + meant : text + "; did you mean " + inQuotes(*named) + "?";
+        std::ranges::find_if(m_names, [&](auto name) { return name.ends_with("::" + target); });
+    return named == m_names.end() ? text + meant
+                                  : text + "; did you mean " + inQuotes(*named) + "?";
 }
 
 /// The field that stands further down in the file.

@@ -2,8 +2,8 @@
 
 #include "generator/Naming.h"
 #include "generator/model/Checks.h"
-#include "generator/model/Forms.h"
 #include "generator/model/ProseNames.h"
+#include "generator/model/Spelling.h"
 
 #include <algorithm>
 #include <tuple>
@@ -11,7 +11,7 @@
 
 namespace kivgen {
 
-void Collection::checkServiceName(std::string const& name, Place const& place)
+void Collection::checkServiceName(std::string const& name, SourcePosition const& place)
 {
     if (!hasServiceForm(name)) {
         fail(place, "the service name " + inQuotes(name) +
@@ -22,7 +22,7 @@ void Collection::checkServiceName(std::string const& name, Place const& place)
     }
 }
 
-void Collection::checkResourceName(std::string const& name, Place const& place)
+void Collection::checkResourceName(std::string const& name, SourcePosition const& place)
 {
     if (!hasClassForm(name)) {
         auto const raised = stemOf(name);
@@ -36,7 +36,7 @@ void Collection::checkResourceName(std::string const& name, Place const& place)
 }
 
 void Collection::addService(std::optional<Node> const& document, std::string const& service,
-                            Place const& place)
+                            SourcePosition const& place)
 {
     if (document) {
         m_services.push_back(readServiceFile(*document, service, place, m_faults));
@@ -44,7 +44,7 @@ void Collection::addService(std::optional<Node> const& document, std::string con
 }
 
 void Collection::addDefinition(std::optional<Node> const& document, std::string const& service,
-                               std::string const& name, Place const& place)
+                               std::string const& name, SourcePosition const& place)
 {
     checkResourceName(name, place);
     m_names.push_back(service + "::" + name);

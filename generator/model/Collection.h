@@ -16,15 +16,15 @@ public:
     /// Whatever is found wrong, here or by whoever reads.
     [[nodiscard]] Faults& faults() { return m_faults; }
 
-    void checkServiceName(std::string const& name, Place const& place);
+    void checkServiceName(std::string const& name, SourcePosition const& place);
 
     /// Takes over what there is to say of a service; nothing if it could not be read.
     void addService(std::optional<Node> const& document, std::string const& service,
-                    Place const& place);
+                    SourcePosition const& place);
 
     /// Takes a definition over; without a document, its name alone, so that it counts as there.
     void addDefinition(std::optional<Node> const& document, std::string const& service,
-                       std::string const& name, Place const& place);
+                       std::string const& name, SourcePosition const& place);
 
     [[nodiscard]] bool isEmpty() const { return m_names.empty(); }
 
@@ -32,9 +32,9 @@ public:
     Loaded finish();
 
 private:
-    void checkResourceName(std::string const& name, Place const& place);
+    void checkResourceName(std::string const& name, SourcePosition const& place);
     void checkWhole(Interface const& interface);
-    void fail(Place const& place, std::string text)
+    void fail(SourcePosition const& place, std::string text)
     {
         m_faults.push_back({place, std::move(text)});
     }

@@ -2,8 +2,8 @@
 
 #include "generator/Naming.h"
 #include "generator/model/Fields.h"
-#include "generator/model/Forms.h"
 #include "generator/model/Rows.h"
+#include "generator/model/Spelling.h"
 #include "text/Suggestion.h"
 
 #include <algorithm>
@@ -21,7 +21,7 @@ constexpr auto saysOfAbout = "it says in a sentence or two what one element is";
 /// Reads the rows above the fields.
 class Reader {
 public:
-    Reader(Definition& definition, Faults& faults) : definition_{definition}, faults_{faults} {}
+    Reader(Definition& definition, Faults& faults) : m_definition{definition}, m_faults{faults} {}
 
     void read(Node const& document);
 
@@ -30,10 +30,13 @@ private:
     void readAbout(Entry const& entry);
     void readNotes(Entry const& entry);
     void readOverride(Entry const& entry, std::string_view className, std::string& key);
-    void fail(Place const& place, std::string text) { faults_.push_back({place, std::move(text)}); }
+    void fail(SourcePosition const& place, std::string text)
+    {
+        m_faults.push_back({place, std::move(text)});
+    }
 
-    Definition& definition_;
-    Faults& faults_;
+    Definition& m_definition;
+    Faults& m_faults;
 };
 
 void Reader::read(Node const& document)
@@ -41,8 +44,8 @@ void Reader::read(Node const& document)
     checkKeys(document, knownKeys,
               "; a definition has 'element', 'about', [fields] and at need [notes], "
               "'resource_key' and 'element_key'",
-              faults_);
-    auto& resource = definition_.resource;
+              m_faults);
+    auto& resource = m_definition.resource;
     if (auto const* const element = find(document, "element")) {
         readElement(*element);
     } else {
@@ -56,7 +59,7 @@ void Reader::read(Node const& document)
     }
     resource.resourceKey = lowered(resource.name);
     if (auto const* const key = find(document, "resource_key")) {
-        definition_.placeOfKey = key->place;
+        m_definition.placeOfKey = key->place;
         readOverride(*key, resource.name, resource.resourceKey);
     }
     resource.elementKey = lowered(resource.element);
@@ -64,7 +67,7 @@ void Reader::read(Node const& document)
         readOverride(*key, resource.element, resource.elementKey);
     }
     if (auto const* const fields = find(document, "fields")) {
-        readFields(*fields, definition_, faults_);
+        readFields(*fields, m_definition, m_faults);
     } else {
         fail(resource.place, "[fields] is missing; it stands empty if the element has no fields "
                              "but id, name and uri");
@@ -76,12 +79,12 @@ void Reader::read(Node const& document)
 
 void Reader::readElement(Entry const& entry)
 {
-    auto const* const text = textOf(entry, faults_);
+    auto const* const text = textOf(entry, m_faults);
     if (text == nullptr) {
         return;
     }
     auto const& name = *text;
-    definition_.resource.element = name;
+    m_definition.resource.element = name;
     auto const shown = "the element class " + inQuotes(name);
     if (!hasClassForm(name)) {
         fail(entry.value.place, shown + " must begin with a capital and go on with letters and "
@@ -91,25 +94,25 @@ void Reader::readElement(Entry const& entry)
     } else if (!name.ends_with("Object")) {
         fail(entry.value.place,
              shown + " must end in 'Object', such as " + inQuotes(name + "Object"));
-    } else if (name == definition_.resource.name) {
+    } else if (name == m_definition.resource.name) {
         fail(entry.value.place, shown + " cannot be named as the resource class that it is in");
     }
 }
 
 void Reader::readAbout(Entry const& entry)
 {
-    auto about = readProse(entry, {"'about'", saysOfAbout, longestAbout}, faults_);
-    definition_.resource.about = about.text;
-    definition_.prose.push_back(std::move(about));
+    auto about = readProse(entry, {"'about'", saysOfAbout, longestAbout}, m_faults);
+    m_definition.resource.about = about.text;
+    m_definition.prose.push_back(std::move(about));
 }
 
 void Reader::readNotes(Entry const& entry)
 {
-    if (!isTable(entry, faults_)) {
+    if (!isTable(entry, m_faults)) {
         return;
     }
-    checkOrder(entry.value, faults_);
-    std::vector<std::string_view> const keys{definition_.keys.begin(), definition_.keys.end()};
+    checkOrder(entry.value, m_faults);
+    std::vector<std::string_view> const keys{m_definition.keys.begin(), m_definition.keys.end()};
     for (Entry const& row : entry.value.table) {
         auto const shown = inQuotes(row.key);
         if (std::ranges::find(keys, row.key) == keys.end()) {
@@ -118,19 +121,19 @@ void Reader::readNotes(Entry const& entry)
         }
         auto note = readProse(
             row, {"the note on " + shown, "it says in a sentence what the field is", longestNote},
-            faults_);
-        auto& fields = definition_.resource.fields;
+            m_faults);
+        auto& fields = m_definition.resource.fields;
         auto const field = std::ranges::find(fields, row.key, &Field::key);
         if (field != fields.end()) { // else its row is faulty, or it has none
             field->note = note.text;
         }
-        definition_.prose.push_back(std::move(note));
+        m_definition.prose.push_back(std::move(note));
     }
 }
 
 void Reader::readOverride(Entry const& entry, std::string_view className, std::string& key)
 {
-    auto const* const text = textOf(entry, faults_);
+    auto const* const text = textOf(entry, m_faults);
     if (text == nullptr) {
         return;
     }
@@ -157,7 +160,7 @@ void addImplied(Definition& definition)
 } // namespace
 
 Definition readDefinition(Node const& document, std::string const& service, std::string const& name,
-                          Place const& file, Faults& faults)
+                          SourcePosition const& file, Faults& faults)
 {
     Definition definition;
     definition.placeOfKey = file;

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "generator/model/Document.h"
 #include "generator/model/Fault.h"
 #include "generator/model/Prose.h"
+#include "generator/model/TomlReader.h"
 
 #include <string>
 #include <vector>
@@ -11,7 +11,7 @@ namespace kivgen {
 
 /// A target as a definition spells it, for the check whether it exists.
 struct Use {
-    Place place;
+    SourcePosition place;
     std::string text;
 };
 
@@ -19,7 +19,7 @@ struct Use {
 struct Definition {
     Resource resource;
     std::vector<Use> uses;         ///< all targets but external ones
-    Place placeOfKey;              ///< where `resource_key` is given, or the file as a whole
+    SourcePosition placeOfKey;     ///< where `resource_key` is given, or the file as a whole
     std::vector<std::string> keys; ///< of all fields, also of those whose row is faulty
     std::vector<Prose> prose;      ///< what it says to people
 };
@@ -28,6 +28,6 @@ struct Definition {
 /// in it alone is added to `faults`; the result then holds what could be understood, so that the
 /// checks across definitions can go on.
 Definition readDefinition(Node const& document, std::string const& service, std::string const& name,
-                          Place const& file, Faults& faults);
+                          SourcePosition const& file, Faults& faults);
 
 } // namespace kivgen

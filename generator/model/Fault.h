@@ -10,7 +10,7 @@ namespace kivgen {
 
 /// Something wrong in the definitions.
 struct Fault {
-    Place place;
+    SourcePosition place;
     std::string text; ///< what is wrong and what would be right, without the place
 };
 

@@ -1,7 +1,7 @@
 #include "generator/model/Fields.h"
 
-#include "generator/model/Forms.h"
 #include "generator/model/Rows.h"
+#include "generator/model/Spelling.h"
 #include "text/Suggestion.h"
 
 #include <algorithm>
@@ -20,12 +20,15 @@ constexpr std::array<std::string_view, 3> targetKeys{"element", "element_list", 
 
 class Reader {
 public:
-    Reader(Definition& definition, Faults& faults) : definition_{definition}, faults_{faults} {}
+    Reader(Definition& definition, Faults& faults) : m_definition{definition}, m_faults{faults} {}
 
     void readRow(Entry const& row);
 
 private:
-    void fail(Place const& place, std::string text) { faults_.push_back({place, std::move(text)}); }
+    void fail(SourcePosition const& place, std::string text)
+    {
+        m_faults.push_back({place, std::move(text)});
+    }
     bool isKey(Entry const& row);
     void readWord(Node const& value, Field field);
     void readTable(Node const& value, Field field);
@@ -33,10 +36,10 @@ private:
     bool isTarget(Node const& value);
     void addTarget(Node const& value, Field& field);
     void readTargets(Node const& value, Field& field);
-    void add(Field field) { definition_.resource.fields.push_back(std::move(field)); }
+    void add(Field field) { m_definition.resource.fields.push_back(std::move(field)); }
 
-    Definition& definition_;
-    Faults& faults_;
+    Definition& m_definition;
+    Faults& m_faults;
 };
 
 std::string spelt(std::string_view key, std::string_view target)
@@ -177,7 +180,7 @@ void Reader::addTarget(Node const& value, Field& field)
 {
     field.targets.push_back(targetOf(value.text));
     if (value.text != externalWord) {
-        definition_.uses.push_back({value.place, value.text});
+        m_definition.uses.push_back({value.place, value.text});
     }
 }
 

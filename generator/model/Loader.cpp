@@ -1,7 +1,7 @@
 #include "generator/model/Loader.h"
 
 #include "generator/model/Collection.h"
-#include "generator/model/Document.h"
+#include "generator/model/TomlReader.h"
 
 #include <algorithm>
 #include <system_error>
@@ -82,13 +82,13 @@ std::vector<Item> Loader::itemsOf(Item const& folder)
 void Loader::loadDefinition(std::string const& service, Item const& file)
 {
     auto const name = fs::path{file.name}.stem().string();
-    auto const document = readDocument(file.path, file.shown, m_collection.faults());
+    auto const document = readToml(file.path, file.shown, m_collection.faults());
     m_collection.addDefinition(document, service, name, {file.shown});
 }
 
 void Loader::loadServiceFile(std::string const& service, Item const& file)
 {
-    auto const document = readDocument(file.path, file.shown, m_collection.faults());
+    auto const document = readToml(file.path, file.shown, m_collection.faults());
     m_collection.addService(document, service, {file.shown});
 }
 

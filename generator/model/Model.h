@@ -12,7 +12,7 @@ namespace kivgen {
 using zel::kiv::catalogue::Kind;
 
 /// A place in a definition. Lines and columns count from 1; 0 means the file as a whole.
-struct Place {
+struct SourcePosition {
     std::string file; ///< as messages show it: relative to the folder that holds `services`
     std::size_t line = 0;
     std::size_t column = 0;
@@ -31,7 +31,7 @@ struct Field {
     std::string key;
     Kind kind = Kind::String;
     std::vector<Target> targets; ///< one for element kinds, several in flag order for polymorphic
-    Place place;
+    SourcePosition place;
     std::string note; ///< what there is to say of it, mostly empty
 };
 
@@ -44,7 +44,7 @@ struct Resource {
     std::string elementKey;
     std::string about;         ///< what one element is
     std::vector<Field> fields; ///< all of them, `id`, `name` and `uri` too, in byte order of keys
-    Place place;
+    SourcePosition place;
 };
 
 /// One service.
@@ -52,7 +52,7 @@ struct Service {
     std::string name;
     std::string about; ///< what it is for
     std::string group; ///< one of the catalogue's `groups`
-    Place place;
+    SourcePosition place;
 };
 
 /// Everything: the resources by service, then by class name, and the services, in byte order.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "generator/model/Document.h"
+#include "generator/model/TomlReader.h"
 
 #include <cstddef>
 #include <string>
@@ -11,7 +11,7 @@ namespace kivgen {
 
 /// A text for people, with what it names in backticks.
 struct Prose {
-    Place place;
+    SourcePosition place;
     std::string text;
     std::vector<std::string> names;
 };

@@ -31,11 +31,11 @@ private:
               Definition const* own);
     [[nodiscard]] std::string ownerOf(std::string const& key) const;
 
-    std::vector<Definition> const& definitions_;
-    Faults& faults_;
-    Names everywhere_;
-    std::map<std::string, Names> local_; ///< by service: its resources and elements
-    std::size_t wrong_ = 0;
+    std::vector<Definition> const& m_definitions;
+    Faults& m_faults;
+    Names m_everywhere;
+    std::map<std::string, Names> m_local; ///< by service: its resources and elements
+    std::size_t m_wrong = 0;
 };
 
 bool hasKey(Definition const& definition, std::string const& key)
@@ -45,35 +45,35 @@ bool hasKey(Definition const& definition, std::string const& key)
 
 Check::Check(std::vector<Definition> const& definitions, std::vector<ServiceFile> const& services,
              std::vector<std::string> const& files, Faults& faults)
-    : definitions_{definitions}, faults_{faults}
+    : m_definitions{definitions}, m_faults{faults}
 {
     for (Definition const& definition : definitions) {
         Resource const& resource = definition.resource;
         auto const name = resource.service + "::" + resource.name;
-        everywhere_.emplace(name, &definition);
-        everywhere_.emplace(name + "::" + resource.element, &definition);
-        everywhere_.emplace(resource.service + "/" + resource.resourceKey, &definition);
-        local_[resource.service].emplace(resource.name, &definition);
-        local_[resource.service].emplace(resource.element, &definition);
+        m_everywhere.emplace(name, &definition);
+        m_everywhere.emplace(name + "::" + resource.element, &definition);
+        m_everywhere.emplace(resource.service + "/" + resource.resourceKey, &definition);
+        m_local[resource.service].emplace(resource.name, &definition);
+        m_local[resource.service].emplace(resource.element, &definition);
     }
     for (ServiceFile const& file : services) {
-        everywhere_.emplace(file.service.name, nullptr);
+        m_everywhere.emplace(file.service.name, nullptr);
     }
     for (auto const name : frameNames) {
-        everywhere_.emplace(name, nullptr);
+        m_everywhere.emplace(name, nullptr);
     }
     for (std::string const& file : files) {
-        everywhere_.emplace(file, nullptr); // unless it is there already
+        m_everywhere.emplace(file, nullptr); // unless it is there already
     }
 }
 
 void Check::check(Prose const& prose, std::string const& service, Definition const* own)
 {
-    auto const& local = local_[service];
+    auto const& local = m_local[service];
     std::vector<Definition const*> scope;
     std::vector<std::string const*> rest;
     for (std::string const& name : prose.names) {
-        auto const& names = local.contains(name) ? local : everywhere_;
+        auto const& names = local.contains(name) ? local : m_everywhere;
         if (auto const found = names.find(name); found != names.end()) {
             scope.push_back(found->second);
         } else {
@@ -94,8 +94,9 @@ void Check::check(Prose const& prose, std::string const& service, Definition con
 std::string Check::ownerOf(std::string const& key) const
 {
     auto const owner = std::ranges::find_if(
-        definitions_, [&](Definition const& definition) { return hasKey(definition, key); });
-    return owner == definitions_.end() ? "" : owner->resource.service + "::" + owner->resource.name;
+        m_definitions, [&](Definition const& definition) { return hasKey(definition, key); });
+    return owner == m_definitions.end() ? ""
+                                        : owner->resource.service + "::" + owner->resource.name;
 }
 
 void Check::fail(Prose const& prose, std::string const& name, Names const& names,
@@ -107,12 +108,12 @@ void Check::fail(Prose const& prose, std::string const& name, Names const& names
                " is a key of another element; a text that names it names its "
                "resource too, such as " +
                inQuotes(owner);
-    } else if (++wrong_ <= mostSuggestions) {
+    } else if (++m_wrong <= mostSuggestions) {
         std::vector<std::string_view> known;
         if (own != nullptr) {
             known.assign(own->keys.begin(), own->keys.end());
         }
-        for (Names const* const each : {&names, static_cast<Names const*>(&everywhere_)}) {
+        for (Names const* const each : {&names, static_cast<Names const*>(&m_everywhere)}) {
             for (auto const& [one, definition] : *each) {
                 known.emplace_back(one);
             }
@@ -120,7 +121,7 @@ void Check::fail(Prose const& prose, std::string const& name, Names const& names
         // A file whose name is refused is a name here too, with whatever bytes it has.
         text += printable(kiv::didYouMean(name, known));
     }
-    faults_.push_back({prose.place, std::move(text)});
+    m_faults.push_back({prose.place, std::move(text)});
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "generator/model/Document.h"
+#include "generator/model/TomlReader.h"
 
 #include <span>
 #include <string>

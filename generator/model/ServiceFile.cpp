@@ -38,8 +38,8 @@ void readGroup(Entry const& row, Service& service, Faults& faults)
 
 } // namespace
 
-ServiceFile readServiceFile(Node const& document, std::string const& service, Place const& file,
-                            Faults& faults)
+ServiceFile readServiceFile(Node const& document, std::string const& service,
+                            SourcePosition const& file, Faults& faults)
 {
     constexpr std::array<std::string_view, 2> known{"about", "group"};
     constexpr std::size_t longestAbout = 400;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "generator/model/Document.h"
 #include "generator/model/Prose.h"
+#include "generator/model/TomlReader.h"
 
 namespace kivgen {
 
@@ -15,7 +15,7 @@ struct ServiceFile {
 };
 
 /// Takes it out of the table of its file. Whatever is wrong in it alone is added to `faults`.
-ServiceFile readServiceFile(Node const& document, std::string const& service, Place const& file,
-                            Faults& faults);
+ServiceFile readServiceFile(Node const& document, std::string const& service,
+                            SourcePosition const& file, Faults& faults);
 
 } // namespace kivgen

@@ -107,7 +107,7 @@ Made<Base> make(std::unique_ptr<Base> (*maker)())
 constexpr std::size_t keyAt = sizeof(void*);
 constexpr std::size_t membersAt = keyAt + sizeof(std::string);
 
-struct Place {
+struct SourcePosition {
     std::size_t storageAt;
     std::size_t storageEnd;
     std::size_t flagAt;
@@ -115,7 +115,7 @@ struct Place {
 
 /// Reads one field of a new element, and looks at what that changed.
 void checkField(std::unique_ptr<common::IObjectBase> (*maker)(), catalogue::Field const& field,
-                std::size_t target, Place const& place)
+                std::size_t target, SourcePosition const& place)
 {
     auto const document = model::valueOf(
         {model::Tree::Map{{std::string(field.key), samples::fieldSample(field, target, 1)}}});

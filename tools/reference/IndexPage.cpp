@@ -4,7 +4,7 @@
 #include "tools/kiv/Console.h"
 #include "tools/lookup/Lookup.h"
 #include "tools/reference/Graph.h"
-#include "tools/reference/KindWords.h"
+#include "tools/reference/KindTexts.h"
 #include "tools/reference/ResourcePage.h"
 
 #include <algorithm>
@@ -85,10 +85,10 @@ Data kindData(Kind kind)
             }
         }
     }
-    auto const& words = wordsOf(kind);
+    auto const& words = textsOf(kind);
     Data data;
     data.set("kind", std::string(wordOf(kind)));
-    data.set("place", kindPlace(kind));
+    data.set("place", anchorOf(kind));
     data.set("stored", breakable(words.stored));
     data.set("ownership", std::string(words.ownership));
     data.set("written", std::string(words.written));

@@ -2,7 +2,7 @@
 
 #include "tools/lookup/Lookup.h"
 #include "tools/reference/Forms.h"
-#include "tools/reference/KindWords.h"
+#include "tools/reference/KindTexts.h"
 #include "tools/reference/Snippet.h"
 
 #include <algorithm>
@@ -71,8 +71,8 @@ Data fieldData(Resource const& resource, Field const& field)
     data.set("key", text(field.key));
     data.set("isCommon", isCommon(field));
     data.set("kind", word);
-    data.set("kindPlace", kindPlace(field.kind));
-    data.set("ownership", text(wordsOf(field.kind).ownership));
+    data.set("kindAnchor", anchorOf(field.kind));
+    data.set("ownership", text(textsOf(field.kind).ownership));
     data.set("hasTargets", !targets.empty());
     data.set("targets", targets);
     data.set("accessors", accessors);

@@ -1,7 +1,7 @@
 #include "tools/reference/Snippet.h"
 
 #include "tools/lookup/Lookup.h"
-#include "tools/sample/Words.h"
+#include "tools/sample/SampleValues.h"
 
 #include <algorithm>
 #include <array>

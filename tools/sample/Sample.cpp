@@ -1,6 +1,6 @@
 #include "tools/sample/Sample.h"
 
-#include "tools/sample/Words.h"
+#include "tools/sample/SampleValues.h"
 
 #include <algorithm>
 #include <string>

@@ -1,10 +1,10 @@
 #include "tools/kiv/check/Checker.h"
 
+#include "json/TypeNames.h"
 #include "text/Phrases.h"
 #include "text/Suggestion.h"
 #include "tools/kiv/Console.h"
 #include "tools/kiv/check/Reading.h"
-#include "tools/kiv/walk/ValueWords.h"
 #include "tools/lookup/Lookup.h"
 
 #include <algorithm>
@@ -26,7 +26,7 @@ bool isText(data::Value const& value)
 
 std::string wanted(data::Value const* value, std::string_view want)
 {
-    return std::string(wordsFor(value)) + " where " + std::string(want) + " is wanted";
+    return std::string(typeName(value)) + " where " + std::string(want) + " is wanted";
 }
 
 std::vector<std::string_view> keysOf(catalogue::Resource const* resource)

@@ -1,10 +1,10 @@
 #include "json/JsonWriter.h"
 #include "json/Make.h"
+#include "json/TypeNames.h"
 #include "text/Phrases.h"
 #include "tools/kiv/Command.h"
 #include "tools/kiv/Progress.h"
 #include "tools/kiv/check/Checker.h"
-#include "tools/kiv/walk/ValueWords.h"
 #include "tools/lookup/Lookup.h"
 
 #include <algorithm>
@@ -100,7 +100,7 @@ private:
             rest.value != nullptr && rest.value->getType() == data::ValueType::Array;
         if (!isArray) {
             handler({Fate::Lost, rest.position, Path().text(),
-                     std::string(wordsFor(rest.value.get())) + " where an array is wanted",
+                     std::string(typeName(rest.value.get())) + " where an array is wanted",
                      "the resource stays empty", "put the elements in brackets"});
         }
         tellInOrder(findings, input.name, report);

@@ -1,11 +1,11 @@
 #include "frame/IObjectBase.h"
 #include "json/JsonWriter.h"
+#include "json/TypeNames.h"
 #include "text/Failure.h"
 #include "tools/kiv/Command.h"
 #include "tools/kiv/Progress.h"
 #include "tools/kiv/diff/Difference.h"
 #include "tools/kiv/walk/Guard.h"
-#include "tools/kiv/walk/ValueWords.h"
 #include "tools/lookup/Lookup.h"
 
 namespace kiv {
@@ -70,7 +70,7 @@ private:
         data::Value const* const top = document.value.get();
         if (top == nullptr || top->getType() != data::ValueType::Array) {
             throw Failure(json::placeText(file, document.position),
-                          std::string(wordsFor(top)) +
+                          std::string(typeName(top)) +
                               " where an array is wanted; put the elements in brackets");
         }
     }

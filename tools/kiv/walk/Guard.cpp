@@ -1,7 +1,7 @@
 #include "tools/kiv/walk/Guard.h"
 
+#include "json/TypeNames.h"
 #include "text/Failure.h"
-#include "tools/kiv/walk/ValueWords.h"
 
 namespace kiv {
 
@@ -17,7 +17,7 @@ public:
     {
         json::Places::Place const* const place = m_places.find(holder, "uri");
         throw Failure(json::placeText(m_file, place->position),
-                      path.text() + " is " + std::string(wordsFor(uri)) +
+                      path.text() + " is " + std::string(typeName(uri)) +
                           ", and the library would take it for text without looking; write the "
                           "uri as text or leave the key out");
     }

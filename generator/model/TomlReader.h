@@ -19,7 +19,7 @@ struct Node {
 
     Type type = Type::Other;
     std::string_view typeName; ///< for messages: `an integer`
-    Place place;
+    SourcePosition place;
     std::string text;         ///< of a text
     std::vector<Node> list;   ///< of a list
     std::vector<Entry> table; ///< of a table, in the order of the file
@@ -28,13 +28,13 @@ struct Node {
 /// A key and its value.
 struct Entry {
     std::string key;
-    Place place; ///< of the key
+    SourcePosition place; ///< of the key
     Node value;
 };
 
 /// Reads one file into a table. `name` is the file as messages show it. If the file cannot be read,
 /// is too large, or is not TOML, that is added to `faults` and the result is empty.
-std::optional<Node> readDocument(std::filesystem::path const& path, std::string const& name,
-                                 Faults& faults);
+std::optional<Node> readToml(std::filesystem::path const& path, std::string const& name,
+                             Faults& faults);
 
 } // namespace kivgen

@@ -1,4 +1,4 @@
-#include "tools/sample/Words.h"
+#include "tools/sample/SampleValues.h"
 
 #include <algorithm>
 #include <array>

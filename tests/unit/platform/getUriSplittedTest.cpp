@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST(Uri, HasServiceResourceAndIdOrLessThanThat)
+TEST(GetUriSplitted, HasServiceResourceAndIdOrLessThanThat)
 {
     struct {
         char const* uri;

@@ -1,5 +1,5 @@
-#include "frame/ExternalResourceObject.h"
 #include "tools/reference/ResourcePage.h"
+#include "frame/ExternalResourceObject.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,7 @@ using zel::kiv::catalogue::Resource;
 constexpr std::string_view hostile = R"(<b id="x">'&amp;)";
 
 /// Whatever a definition may come to say stays text: no letter of it becomes HTML.
-TEST(PageTest, NothingOfADefinitionIsTakenForHtml)
+TEST(ResourcePage, NothingOfADefinitionIsTakenForHtml)
 {
     std::array const accessors{Accessor{"getIt", "std::vector<x> getIt() const"},
                                Accessor{"setIt", "void setIt(<script> value)"},

@@ -1,4 +1,4 @@
-#include "generator/model/Document.h"
+#include "generator/model/TomlReader.h"
 
 #include "generator/Naming.h"
 
@@ -86,14 +86,14 @@ bool isReadable(std::string const& text, std::string const& name, Faults& faults
     return true;
 }
 
-Place placeOf(std::string const& name, toml::source_position position)
+SourcePosition placeOf(std::string const& name, toml::source_position position)
 {
     return {name, position.line, position.column};
 }
 
 /// The parser notices a key that is there already behind it, at the equals sign or the value. The
 /// key itself begins its line, unless it stands in an inline table.
-std::size_t columnOfKey(std::string const& text, Place const& noticed)
+std::size_t columnOfKey(std::string const& text, SourcePosition const& noticed)
 {
     std::size_t begin = 0;
     for (std::size_t line = 1; line < noticed.line; ++line) {
@@ -174,8 +174,8 @@ Node nodeOf(toml::node const& source, std::string const& name)
 
 } // namespace
 
-std::optional<Node> readDocument(std::filesystem::path const& path, std::string const& name,
-                                 Faults& faults)
+std::optional<Node> readToml(std::filesystem::path const& path, std::string const& name,
+                             Faults& faults)
 {
     auto const text = readText(path, name, faults);
     if (!text || !isReadable(*text, name, faults)) {

@@ -1,4 +1,4 @@
-#include "tools/reference/KindWords.h"
+#include "tools/reference/KindTexts.h"
 
 #include <algorithm>
 #include <array>
@@ -12,7 +12,7 @@ constexpr std::string_view manyOwned = "owned; the getter copies the list of poi
 constexpr std::string_view oneWritten = "an Object; shallow and below: a String holding its uri";
 
 /// In the order of `Kind`.
-constexpr std::array<KindWords, zel::kiv::catalogue::kindWords.size()> words{{
+constexpr std::array<KindTexts, zel::kiv::catalogue::kindWords.size()> words{{
     {"std::string", "copied in; the getter lends a reference", "a String"},
     {"int", "by value", "an Integer"},
     {"double", "by value", "a Float"},
@@ -28,12 +28,12 @@ constexpr std::array<KindWords, zel::kiv::catalogue::kindWords.size()> words{{
 
 } // namespace
 
-KindWords const& wordsOf(zel::kiv::catalogue::Kind kind)
+KindTexts const& textsOf(zel::kiv::catalogue::Kind kind)
 {
     return words.at(static_cast<std::size_t>(kind));
 }
 
-std::string kindPlace(zel::kiv::catalogue::Kind kind)
+std::string anchorOf(zel::kiv::catalogue::Kind kind)
 {
     std::string word(wordOf(kind));
     std::ranges::replace(word, ' ', '-');

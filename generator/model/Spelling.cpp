@@ -1,4 +1,4 @@
-#include "generator/model/Forms.h"
+#include "generator/model/Spelling.h"
 
 #include "generator/Naming.h"
 
