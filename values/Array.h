@@ -8,7 +8,7 @@ namespace zel::dataformats::data {
 /// A sequence of values, which it owns.
 class ZEL_PLATFORM_API Array final : public Value {
 public:
-    /// An empty array. Allocates nothing.
+    /// An empty array.
     Array() noexcept;
     ~Array() override;
 

@@ -19,8 +19,7 @@ public:
     Value(Value const&) = delete;
     Value& operator=(Value const&) = delete;
 
-    /// Frees the value and everything it owns, however deeply nested, without using stack for the
-    /// depth.
+    /// Frees the value and everything it owns. Uses stack in proportion to the depth of the tree.
     virtual ~Value();
 
     /// Calls the one `visit...` operation of `visitor` that fits the type of the value.

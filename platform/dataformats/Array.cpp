@@ -1,7 +1,5 @@
 #include "values/Array.h"
 
-#include "PointerBlock.h"
-#include "release.h"
 #include "values/ConstVisitor.h"
 
 #include <memory>
@@ -14,7 +12,9 @@ Array::Array() noexcept = default;
 
 Array::~Array()
 {
-    zel::common::types::release(m_entries.detach());
+    for (Value const* const entry : m_entries) {
+        delete entry;
+    }
 }
 
 void Array::accept(ConstVisitor& visitor) const
@@ -35,8 +35,7 @@ std::int32_t Array::getType() const
 Array* Array::clone() const
 {
     auto copy = std::make_unique<Array>();
-    copy->m_entries.reserve(m_entries.size());
-    for (Value const* entry : m_entries) {
+    for (Value const* const entry : m_entries) {
         copy->pushNew(entry == nullptr ? nullptr : entry->clone());
     }
     return copy.release();
@@ -45,7 +44,7 @@ Array* Array::clone() const
 void Array::pushNew(Value* value)
 {
     std::unique_ptr<Value> owned{value};
-    m_entries.push(value);
+    m_entries.m_entries.push_back(value);
     static_cast<void>(owned.release());
 }
 

@@ -1,11 +1,8 @@
 #include "values/Object.h"
 
-#include "EntryBlock.h"
-#include "release.h"
 #include "values/ConstVisitor.h"
 
 #include <memory>
-#include <string_view>
 
 namespace zel::dataformats::data {
 
@@ -15,7 +12,9 @@ Object::Object() noexcept = default;
 
 Object::~Object()
 {
-    zel::common::types::release(m_entries.detach());
+    for (auto const& [key, value] : m_entries) {
+        delete static_cast<Value*>(value);
+    }
 }
 
 void Object::accept(ConstVisitor& visitor) const
@@ -37,25 +36,18 @@ Object* Object::clone() const
 {
     auto copy = std::make_unique<Object>();
     for (auto const& [key, value] : m_entries) {
-        copy->store(key, value == nullptr ? nullptr : static_cast<Value const*>(value)->clone());
+        copy->setNew(key.c_str(),
+                     value == nullptr ? nullptr : static_cast<Value const*>(value)->clone());
     }
     return copy.release();
 }
 
 void Object::setNew(char const* key, Value* value)
 {
-    store(key, value);
-}
-
-void Object::store(std::string_view key, Value* value)
-{
     std::unique_ptr<Value> owned{value};
-    void*& slot = m_entries.slot(key);
-    auto* const old = static_cast<Value*>(slot);
-    slot = owned.release();
-    if (old != value) {
-        delete old;
-    }
+    void*& place = m_entries.m_entries[key];
+    std::unique_ptr<Value> const replaced{static_cast<Value*>(place)};
+    place = owned.release();
 }
 
 PtrMap<std::string, Value> const& Object::get() const noexcept

@@ -1,11 +1,12 @@
+#include "Allocations.h"
 #include "values/values.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace {
 
@@ -70,60 +71,87 @@ std::unique_ptr<Value> makeTree()
     auto tree = std::make_unique<Object>();
     tree->setNew("text", new String{"long enough to need memory\0!"s});
     tree->setNew("list", list.release());
-    tree->setNew("number", new Integer{-3});
-    tree->setNew("fraction", new Float{0.5});
-    tree->setNew("flag", new Boolean{true});
+    tree->setNew("a key that is long enough for that", new Integer{-3});
+    tree->setNew("Fraction", new Float{0.5});
+    tree->setNew("flag", new Integer{1});
+    tree->setNew("flag", new Boolean{true}); // takes the place of the first
     tree->setNew("none", nullptr);
     tree->setNew("object", new Object);
     return tree;
 }
 
-std::string const printedTree = "{flag:yes fraction:0.500000 list:[null null <a\0b> [] ] none:null "
-                                "number:-3 object:{} text:\"long enough to need memory\0!\" }"s;
+std::string const printedTree =
+    "{Fraction:0.500000 a key that is long enough for that:-3 flag:yes list:[null null <a\0b> [] "
+    "] none:null object:{} text:\"long enough to need memory\0!\" }"s;
 
-TEST(Value, ShowsEachTypeToAVisitorAndIsClonedDeeply)
+TEST(Value, ShowsItsTypeAndIsClonedAndFreedWhole)
 {
-    std::unique_ptr<Value> tree = makeTree();
-    EXPECT_EQ(print(tree.get()), printedTree);
-    EXPECT_EQ(print(nullptr), "null");
-    std::unique_ptr<Value> const copy{tree->clone()};
-    tree.reset();
-    EXPECT_EQ(print(copy.get()), printedTree);
-}
-
-TEST(Value, SaysItsType)
-{
-    auto const expectType = [](Value const& value, std::int32_t type, std::string const& name) {
-        std::unique_ptr<Value> const copy{value.clone()};
-        EXPECT_EQ(value.getType(), type) << name;
-        EXPECT_EQ(value.typeName(), name);
-        EXPECT_EQ(copy->getType(), type) << name;
-    };
-    expectType(Null(), 0, "Null");
-    expectType(Boolean(false), 1, "Boolean");
-    expectType(Integer(0), 2, "Integer");
-    expectType(Float(0), 3, "Float");
-    expectType(Blob(BufferDescriptor<char const>{}), 4, "Blob");
-    expectType(String(""), 5, "String");
-    expectType(Array(), 7, "Array");
-    expectType(Object(), 8, "Object");
-}
-
-TEST(Array, KeepsItsEntriesInOrder)
-{
-    Array array;
-    EXPECT_TRUE(array.get().empty());
-    EXPECT_EQ(array.get().begin(), array.get().end());
-
-    std::vector<Value*> pushed;
-    for (int index = 0; index < 1000; ++index) {
-        pushed.push_back(index % 10 == 0 ? nullptr : new Integer{index});
-        array.pushNew(pushed.back());
+    std::size_t const before = allocations::alive();
+    {
+        std::unique_ptr<Value> tree = makeTree();
+        EXPECT_EQ(print(tree.get()), printedTree);
+        EXPECT_EQ(print(nullptr), "null");
+        std::unique_ptr<Value> const copy{tree->clone()};
+        tree.reset();
+        EXPECT_EQ(print(copy.get()), printedTree);
     }
-    PtrVector<Value> const& entries = array.get();
-    EXPECT_TRUE(std::equal(entries.begin(), entries.end(), pushed.begin(), pushed.end()));
-    EXPECT_EQ(entries.size(), pushed.size());
-    EXPECT_EQ(entries[999], pushed[999]);
+    EXPECT_EQ(allocations::alive(), before);
+
+    struct {
+        std::unique_ptr<Value> value;
+        std::int32_t type;
+        std::string name;
+    } const types[] = {
+        {std::make_unique<Null>(), 0, "Null"},
+        {std::make_unique<Boolean>(false), 1, "Boolean"},
+        {std::make_unique<Integer>(0), 2, "Integer"},
+        {std::make_unique<Float>(0), 3, "Float"},
+        {std::make_unique<Blob>(BufferDescriptor<char const>{}), 4, "Blob"},
+        {std::make_unique<String>(""), 5, "String"},
+        {std::make_unique<Array>(), 7, "Array"},
+        {std::make_unique<Object>(), 8, "Object"},
+    };
+    for (auto const& [value, type, name] : types) {
+        EXPECT_EQ(value->getType(), type) << name;
+        EXPECT_EQ(value->typeName(), name);
+    }
+}
+
+TEST(Containers, GiveWhatTheyHoldInOrder)
+{
+    Object object;
+    auto* const replacing = new Integer{2};
+    for (char const* const key : {"b", "a", "", "B", "ab"}) {
+        object.setNew(key, nullptr);
+    }
+    object.setNew("a", new Integer{1});
+    std::size_t const alive = allocations::alive();
+    object.setNew("a", replacing);
+    EXPECT_EQ(allocations::alive(), alive - 1);
+    EXPECT_EQ(print(&object), "{:null B:null a:2 ab:null b:null }");
+    ASSERT_NE(object.get().find("a"), object.get().end());
+    EXPECT_EQ(object.get().find("a")->second, replacing);
+    ASSERT_NE(object.get().find("b"), object.get().end());
+    EXPECT_EQ(object.get().find("b")->second, nullptr);
+    EXPECT_EQ(object.get().find("c"), object.get().end());
+
+    Array array;
+    EXPECT_EQ(array.get().begin(), array.get().end());
+    Value* const pushed[] = {new Integer{7}, nullptr, new Integer{8}};
+    for (Value* const each : pushed) {
+        array.pushNew(each);
+    }
+    EXPECT_TRUE(std::equal(array.get().begin(), array.get().end(), std::begin(pushed)));
+}
+
+TEST(Containers, OwnWhatTheyAreGivenAlsoWhenMemoryRunsOut)
+{
+    std::unique_ptr<Value> const tree = makeTree();
+    std::size_t const alive = allocations::alive();
+    auto const nothingIsLeft = [&] { EXPECT_EQ(allocations::alive(), alive); };
+    EXPECT_GT(allocations::failEach([] { makeTree(); }, nothingIsLeft), 20U);
+    EXPECT_GT(allocations::failEach([&] { std::unique_ptr<Value>{tree->clone()}; }, nothingIsLeft),
+              20U);
 }
 
 } // namespace
