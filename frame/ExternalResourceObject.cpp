@@ -1,8 +1,8 @@
 #include "frame/ExternalResourceObject.h"
 
-#include "frame/internal/Reading.h"
+#include "frame/internal/ObjectReader.h"
+#include "frame/internal/ObjectWriter.h"
 #include "frame/internal/VisitorTexts.h"
-#include "frame/internal/Writing.h"
 
 namespace zel::kiv::common {
 
@@ -18,9 +18,9 @@ ExternalResourceObject::~ExternalResourceObject() = default;
 std::unique_ptr<Value> ExternalResourceObject::serialize(SerializationType type) const
 {
     if (type == SerializationType::Reference) {
-        return internal::makeReference(getUri());
+        return internal::makeReference(*this, getUri());
     }
-    internal::ObjectWriter object(type);
+    internal::ObjectWriter object(*this, type);
     if (m_id_isSet) {
         object.addString("id", m_id);
     }

@@ -11,101 +11,99 @@ using zel::dataformats::data::Value;
 
 ElementVisitor::~ElementVisitor() = default;
 
-void ElementVisitor::note(char const* text)
+void ElementVisitor::read(Value const* value)
 {
-    m_error = true;
-    m_errorText += text;
+    visit(value);
 }
 
 void ElementVisitor::visitNull()
 {
-    note(elementText::null);
+    m_fault.note(elementText::null);
 }
 
 void ElementVisitor::visitBoolean(bool /*value*/)
 {
-    note(elementText::boolean);
+    m_fault.note(elementText::boolean);
 }
 
 void ElementVisitor::visitInteger(int /*value*/)
 {
-    note(elementText::integer);
+    m_fault.note(elementText::integer);
 }
 
 void ElementVisitor::visitFloat(double /*value*/)
 {
-    note(elementText::floating);
+    m_fault.note(elementText::floating);
 }
 
 void ElementVisitor::visitString(BufferDescriptor<char const> /*value*/)
 {
-    note(elementText::string);
+    m_fault.note(elementText::string);
 }
 
 void ElementVisitor::visitBlob(BufferDescriptor<char const> /*value*/)
 {
-    note(elementText::blob);
+    m_fault.note(elementText::blob);
 }
 
 void ElementVisitor::visitArray(PtrVector<Value> const& /*entries*/)
 {
-    note(elementText::array);
+    m_fault.note(elementText::array);
 }
 
 ResourceVisitor::~ResourceVisitor() = default;
 
-void ResourceVisitor::note(char const* text)
+void ResourceVisitor::read(Value const* value)
 {
-    m_error = true;
-    m_errorText += text;
+    visit(value);
 }
 
-void ResourceVisitor::readAll(Entries const& entries, IResourceBase& target, Make make,
-                              Give<IResourceBase> add, char const* failure)
+void ResourceVisitor::readEntries(Entries const& entries, Handover<IResourceBase> handover,
+                                  char const* failure)
 {
     for (Value const* const entry : entries) {
-        std::unique_ptr<IObjectBase> element(make());
+        std::unique_ptr<IObjectBase> element(handover.make());
         if (!element->deserialize(entry)) {
-            note(failure);
+            m_fault.note(failure);
             return;
         }
-        add(target, element.release());
+        handover.give(*m_target, element.release());
     }
 }
 
 void ResourceVisitor::visitNull()
 {
-    note(resourceText::null);
+    m_fault.note(resourceText::null);
 }
 
 void ResourceVisitor::visitBoolean(bool /*value*/)
 {
-    note(resourceText::boolean);
+    m_fault.note(resourceText::boolean);
 }
 
 void ResourceVisitor::visitInteger(int /*value*/)
 {
-    note(resourceText::integer);
+    m_fault.note(resourceText::integer);
 }
 
 void ResourceVisitor::visitFloat(double /*value*/)
 {
-    note(resourceText::floating);
+    m_fault.note(resourceText::floating);
 }
 
 void ResourceVisitor::visitString(BufferDescriptor<char const> /*value*/)
 {
-    note(resourceText::string);
+    m_fault.note(resourceText::string);
 }
 
 void ResourceVisitor::visitBlob(BufferDescriptor<char const> /*value*/)
 {
-    note(resourceText::blob);
+    m_fault.note(resourceText::blob);
 }
 
 void ResourceVisitor::visitObject(PtrMap<std::string, Value> const& /*map*/)
 {
-    note(resourceText::object);
+    m_fault.note(resourceText::object);
 }
 
 } // namespace zel::kiv::common::internal

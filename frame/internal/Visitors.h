@@ -1,15 +1,30 @@
 #pragma once
 
+#include "frame/IObjectBase.h"
 #include "frame/IResourceBase.h"
-#include "frame/internal/Giving.h"
+#include "frame/internal/Handover.h"
 #include "values/values.h"
 
 #include <string>
 
 namespace zel::kiv::common::internal {
 
+/// The fault that a visitor notes when it meets a value that it cannot read. Nobody looks at it.
+class Fault {
+public:
+    void note(char const* text)
+    {
+        m_isNoted = true;
+        m_text += text;
+    }
+
+private:
+    bool m_isNoted = false;
+    std::string m_text;
+};
+
 /// What all element visitors but the exported one have in common: everything but an object is noted
-/// as a fault. The derived class adds a pointer to its target and `visitObject`.
+/// as a fault. The derived class adds `visitObject`.
 class ElementVisitor : public zel::dataformats::data::ConstVisitor {
 public:
     ElementVisitor(ElementVisitor const&) = delete;
@@ -26,19 +41,22 @@ public:
     void
     visitArray(zel::common::types::PtrVector<zel::dataformats::data::Value> const& entries) final;
 
+    /// Fills the target from the value, which may be null if the value library takes that.
+    void read(zel::dataformats::data::Value const* value);
+
 protected:
-    ElementVisitor() = default;
+    explicit ElementVisitor(IObjectBase& target) : m_target(&target) {}
     ~ElementVisitor() override;
 
-private:
-    void note(char const* text);
+    [[nodiscard]] IObjectBase& target() const { return *m_target; }
 
-    bool m_error = false;
-    std::string m_errorText;
+private:
+    Fault m_fault;
+    IObjectBase* m_target;
 };
 
 /// The same for resource visitors: everything but an array is noted as a fault. The derived class
-/// adds a pointer to its target and `visitArray`.
+/// adds `visitArray`.
 class ResourceVisitor : public zel::dataformats::data::ConstVisitor {
 public:
     using Entries = zel::common::types::PtrVector<zel::dataformats::data::Value>;
@@ -57,27 +75,26 @@ public:
     void visitObject(
         zel::common::types::PtrMap<std::string, zel::dataformats::data::Value> const& map) final;
 
+    /// Fills the target from the value, which may be null if the value library takes that.
+    void read(zel::dataformats::data::Value const* value);
+
 protected:
-    ResourceVisitor() = default;
+    explicit ResourceVisitor(IResourceBase& target) : m_target(&target) {}
     ~ResourceVisitor() override;
 
     /// Makes an element of each entry, null entries included, and hands it to the target's adder.
     /// `failure` is noted if an element cannot be read, which ends it.
-    template <auto adder, typename Resource>
-    void readEntries(Entries const& entries, Resource& target, char const* failure)
+    template <auto adder>
+    void readEntries(Entries const& entries, char const* failure)
     {
-        using Owning = Giver<decltype(adder)>;
-        readAll(entries, target, Owning::make, Owning::template give<IResourceBase, adder>,
-                failure);
+        readEntries(entries, HandoverTo<IResourceBase, adder>::value, failure);
     }
 
 private:
-    void note(char const* text);
-    void readAll(Entries const& entries, IResourceBase& target, Make make, Give<IResourceBase> add,
-                 char const* failure);
+    void readEntries(Entries const& entries, Handover<IResourceBase> handover, char const* failure);
 
-    bool m_error = false;
-    std::string m_errorText;
+    Fault m_fault;
+    IResourceBase* m_target;
 };
 
 } // namespace zel::kiv::common::internal

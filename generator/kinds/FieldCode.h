@@ -24,8 +24,8 @@ struct FieldCode {
     std::vector<std::string> members; ///< the stored value and its flags, in layout order
     std::vector<std::string> flags; ///< the names of the flags: the field is set if one of them is
     std::string write;              ///< puts a set field into `object`, in `serialize`
+    std::string targets;            ///< the rows that `read` chooses from
     std::string read;               ///< reads the field from `fields`, in the visitor
-    std::string readMethod;         ///< a member function of the visitor that `read` calls
     std::string release;            ///< frees what the field holds, in the destructor
 };
 

@@ -42,48 +42,62 @@ Accessor presenceOf(Field const& field, Target const& target, Interface const& i
             "return " + flagOf(field, target, interface) + ";\n"};
 }
 
-std::string attachStep(Field const& field, Target const& target, Interface const& interface)
+constexpr std::string_view handover = "internal::handover<";
+
+/// What the frame's `handover` takes to bring an element of that target into the field.
+std::vector<std::string> argumentsOf(Field const& field, Target const& target,
+                                     Interface const& interface)
 {
-    return wrapped(12, "nested.attach<common::" + classOf(target, interface) + ">(",
-                   {"*m_target", "&Element::" + setterName(field.key)}, ",", ");");
+    return {"Element", "common::" + classOf(target, interface),
+            "&Element::" + setterName(field.key)};
+}
+
+std::string rowOf(Field const& field, Target const& target, Interface const& interface)
+{
+    auto const& resource = *interface.find(target.service, target.resource);
+    std::string const start = "{\"" + target.service + '/' + resource.resourceKey + "\",";
+    std::string const beside = start + ' ' + std::string(handover);
+    std::vector<std::string> const arguments = argumentsOf(field, target, interface);
+    std::string const below = wrapped(5, handover, arguments, ",", ">},");
+    bool const isOneLine = std::ranges::count(below, '\n') == 1;
+    auto const width = 4 + beside.size() + arguments[0].size() + 2 + arguments[1].size() + 1;
+    return isOneLine || width > columns ? "    " + start + '\n' + below
+                                        : wrapped(4, beside, arguments, ",", ">},");
+}
+
+/// The field's key as the name of a constant, and what the constant is.
+std::string constantOf(Field const& field, std::string_view what)
+{
+    return field.key + std::string(what);
 }
 
 /// The uri's service and resource decide, in the order of the targets; an external target takes
 /// what is left, wherever it stands among them.
-std::string dispatchSteps(Field const& field, Interface const& interface)
+std::string targetsOf(Field const& field, Interface const& interface)
 {
-    std::string steps;
+    std::string rows;
     std::string lastResort;
     for (Target const& target : field.targets) {
         if (target.isExternal()) {
-            lastResort = attachStep(field, target, interface);
-            continue;
+            lastResort = "constexpr internal::Handover<common::IObjectBase> " +
+                         constantOf(field, "LastResort") + " =\n" +
+                         wrapped(4, handover, argumentsOf(field, target, interface), ",", ">;") +
+                         '\n';
+        } else {
+            rows += rowOf(field, target, interface);
         }
-        auto const& resource = *interface.find(target.service, target.resource);
-        steps += steps.empty() ? "        if" : "        } else if";
-        steps += " (resource == \"" + target.service + '/' + resource.resourceKey + "\") {\n";
-        steps += attachStep(field, target, interface);
     }
-    if (!lastResort.empty()) {
-        steps += "        } else {\n" + lastResort;
-    }
-    return steps + "        }\n";
+    return "constexpr internal::Target " + constantOf(field, "Targets") + "[] = {\n" + rows +
+           "};\n\n" + lastResort;
 }
 
-std::string readMethodOf(Field const& field, Interface const& interface)
+std::string readStep(Field const& field)
 {
-    return fill(R"(
-    void read$Stem$(Value const& value)
-    {
-        internal::NestedObject const nested(value);
-        std::string const resource = common::IObjectBase::getServiceAndResourceString(nested.get());
-        if (resource.empty()) {
-            return;
-        }
-$steps$
+    std::vector<std::string> arguments = {'"' + field.key + '"', constantOf(field, "Targets")};
+    if (std::ranges::any_of(field.targets, &Target::isExternal)) {
+        arguments.push_back('&' + constantOf(field, "LastResort"));
     }
-)",
-                {{"Stem", stemOf(field.key)}, {"steps", dispatchSteps(field, interface)}});
+    return wrapped(8, "fields.readPolymorphic(", arguments, ",", ");");
 }
 
 } // namespace
@@ -106,13 +120,8 @@ FieldCode polymorphicCode(Field const& field, Interface const& interface)
     for (Target const& target : field.targets) {
         code.accessors.push_back(presenceOf(field, target, interface));
     }
-    code.read = fill(R"(
-        if (auto const* const value = fields.find("$key$")) {
-            read$Stem$(*value);
-        }
-)",
-                     {{"key", field.key}, {"Stem", stemOf(field.key)}});
-    code.readMethod = readMethodOf(field, interface);
+    code.targets = targetsOf(field, interface);
+    code.read = readStep(field);
     code.write = writeStep(field, "Element");
     code.release = "    internal::release(" + member + ");\n";
     return code;

@@ -67,9 +67,13 @@ std::string constructorOf(std::string const& name, std::string const& base, std:
 
 std::string visitorConstructorOf(std::string const& className, std::string const& target)
 {
-    std::string const head =
-        "    explicit " + className + "(" + target + "& target) : m_target(&target)";
-    return head + (head.size() + 3 <= columns ? " {}\n" : "\n    {\n    }\n");
+    std::string const head = "    explicit " + className + "Deserializer(" + target + "& target)";
+    std::string const initialiser = ": " + target + "Visitor(target)";
+    std::string const line = head + ' ' + initialiser;
+    if (line.size() <= columns) {
+        return line + (line.size() + 3 <= columns ? " {}\n" : "\n    {\n    }\n");
+    }
+    return head + "\n        " + initialiser + "\n    {\n    }\n";
 }
 
 std::string classHeadOf(std::string const& name, std::string const& base)

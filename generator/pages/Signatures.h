@@ -18,7 +18,8 @@ std::string definitionOf(Accessor const& accessor, std::string const& scope);
 /// A constructor without parameters and the key it gives to its base.
 std::string constructorOf(std::string const& name, std::string const& base, std::string const& key);
 
-/// The constructor of a visitor, in its class; it takes the object to fill.
+/// The constructor of the visitor of a class, in the visitor; it takes the object to fill, which
+/// `target` says what it is: `Element` or `Resource`.
 std::string visitorConstructorOf(std::string const& className, std::string const& target);
 
 /// The first line of an exported class.

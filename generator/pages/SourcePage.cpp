@@ -13,10 +13,10 @@ constexpr std::string_view source = R"(
 $mark$$definition$
 #include "services/$service$/$Resource$.h"
 
+#include "frame/internal/ObjectReader.h"
+#include "frame/internal/ObjectWriter.h"
 #include "frame/internal/Owning.h"
-#include "frame/internal/Reading.h"
 #include "frame/internal/Visitors.h"
-#include "frame/internal/Writing.h"
 
 #include <utility>
 
@@ -32,19 +32,16 @@ using zel::dataformats::data::Value;
 using Resource = common::$service$::$Resource$;
 using Element = Resource::$Element$;
 
+$targets$
 class $Element$Deserializer final : public internal::ElementVisitor {
 public:
 $elementVisitor$
 
     void visitObject(PtrMap<std::string, Value> const& map) override
     {
-        internal::ObjectReader fields(map, *m_target, $longestKey$);
+        internal::ObjectReader fields(map, target(), $longestKey$);
 $reads$
     }
-
-private:
-$readMethods$
-    Element* m_target;
 };
 
 class $Resource$Deserializer final : public internal::ResourceVisitor {
@@ -55,9 +52,6 @@ $resourceVisitor$
     {
 $readEntries$
     }
-
-private:
-    Resource* m_target;
 };
 
 } // namespace
@@ -70,13 +64,13 @@ $Resource$::~$Resource$() = default;
 
 std::unique_ptr<Value> $Resource$::serialize() const
 {
-    return internal::serializeAll(m_objects);
+    return internal::serializeAll(*this, m_objects);
 }
 
 bool $Resource$::deserialize(Value const* value)
 {
     $Resource$Deserializer visitor(*this);
-    visitor.visit(value);
+    visitor.read(value);
     return true;
 }
 
@@ -110,9 +104,9 @@ $destruct$
 std::unique_ptr<Value> Element::serialize(SerializationType type) const
 {
     if (type == SerializationType::Reference) {
-        return internal::makeReference(getUri());
+        return internal::makeReference(*this, getUri());
     }
-    internal::ObjectWriter object(type);
+    internal::ObjectWriter object(*this, type);
 $writes$
     return object.take();
 }
@@ -120,7 +114,7 @@ $writes$
 bool Element::deserialize(Value const* value)
 {
     $Element$Deserializer visitor(*this);
-    visitor.visit(value);
+    visitor.read(value);
     return true;
 }
 $accessors$
@@ -153,14 +147,14 @@ std::string readEntriesOf(Resource const& resource)
 {
     std::string const failure = "Error while deserializing array into '" + resource.name +
                                 "::" + resource.element + "'-object!\\n";
-    return wrapped(8, "readEntries<&Resource::addObject>(",
-                   {"entries", "*m_target", '"' + failure + '"'}, ",", ");");
+    return wrapped(8, "readEntries<&Resource::addObject>(", {"entries", '"' + failure + '"'}, ",",
+                   ");");
 }
 
 /// What the fields of one element make of its source unit.
 struct Steps {
     std::string reads;
-    std::string readMethods;
+    std::string targets;
     std::string writes;
     std::string releases;
     std::string accessors;
@@ -172,9 +166,7 @@ Steps stepsOf(Resource const& resource, Interface const& interface)
     for (Field const& field : resource.fields) {
         FieldCode const code = codeOf(field, interface);
         steps.reads += code.read;
-        if (!code.readMethod.empty()) {
-            steps.readMethods += code.readMethod + '\n';
-        }
+        steps.targets += code.targets;
         steps.writes += writeStep(code);
         steps.releases += code.release;
         for (Accessor const& accessor : code.accessors) {
@@ -189,28 +181,26 @@ Steps stepsOf(Resource const& resource, Interface const& interface)
 Page sourcePage(Resource const& resource, Interface const& interface)
 {
     Steps const steps = stepsOf(resource, interface);
-    return {
-        "services/" + resource.service + '/' + resource.name + ".cpp",
-        fill(
-            source,
-            {{"mark", generatedMark},
-             {"definition", resource.place.file},
-             {"service", resource.service},
-             {"Resource", resource.name},
-             {"Element", resource.element},
-             {"longestKey", std::to_string(longestKeyOf(resource))},
-             {"reads", steps.reads},
-             {"readMethods", steps.readMethods},
-             {"readEntries", readEntriesOf(resource)},
-             {"elementVisitor", visitorConstructorOf(resource.element + "Deserializer", "Element")},
-             {"resourceVisitor", visitorConstructorOf(resource.name + "Deserializer", "Resource")},
-             {"constructResource", constructorOf(resource.name + "::" + resource.name + "()",
-                                                 "IResourceBase", resource.resourceKey)},
-             {"construct", constructorOf("Element::" + resource.element + "()", "IObjectBase",
-                                         resource.elementKey)},
-             {"destruct", destructorOf(resource.element, steps.releases)},
-             {"writes", steps.writes},
-             {"accessors", steps.accessors}})};
+    return {"services/" + resource.service + '/' + resource.name + ".cpp",
+            fill(source,
+                 {{"mark", generatedMark},
+                  {"definition", resource.place.file},
+                  {"service", resource.service},
+                  {"Resource", resource.name},
+                  {"Element", resource.element},
+                  {"longestKey", std::to_string(longestKeyOf(resource))},
+                  {"reads", steps.reads},
+                  {"targets", steps.targets},
+                  {"readEntries", readEntriesOf(resource)},
+                  {"elementVisitor", visitorConstructorOf(resource.element, "Element")},
+                  {"resourceVisitor", visitorConstructorOf(resource.name, "Resource")},
+                  {"constructResource", constructorOf(resource.name + "::" + resource.name + "()",
+                                                      "IResourceBase", resource.resourceKey)},
+                  {"construct", constructorOf("Element::" + resource.element + "()", "IObjectBase",
+                                              resource.elementKey)},
+                  {"destruct", destructorOf(resource.element, steps.releases)},
+                  {"writes", steps.writes},
+                  {"accessors", steps.accessors}})};
 }
 
 } // namespace kivgen

@@ -1,4 +1,4 @@
-#include "frame/internal/Writing.h"
+#include "frame/internal/ObjectWriter.h"
 
 namespace zel::kiv::common::internal {
 
@@ -10,18 +10,24 @@ using zel::dataformats::data::Object;
 using zel::dataformats::data::String;
 using zel::dataformats::data::Value;
 
-std::unique_ptr<Value> makeReference(std::string const& uri)
+std::unique_ptr<Value> makeReference(IObjectBase const& /*element*/, std::string const& uri)
 {
     return std::make_unique<String>(uri);
 }
 
-ArrayWriter::ArrayWriter(SerializationType type) : m_array(std::make_unique<Array>()), m_type(type)
+ArrayWriter::ArrayWriter(IResourceBase const& /*resource*/)
+    : m_array(std::make_unique<Array>()), m_type(SerializationType::Full)
 {
 }
 
-void ArrayWriter::add(IObjectBase const& element)
+ArrayWriter::ArrayWriter(char const* /*key*/, SerializationType type)
+    : m_array(std::make_unique<Array>()), m_type(type)
 {
-    m_array->pushNew(element.serialize(m_type).release());
+}
+
+void ArrayWriter::add(IObjectBase const* element)
+{
+    m_array->pushNew(element->serialize(m_type).release());
 }
 
 std::unique_ptr<Value> ArrayWriter::take()
@@ -29,7 +35,7 @@ std::unique_ptr<Value> ArrayWriter::take()
     return std::move(m_array);
 }
 
-ObjectWriter::ObjectWriter(SerializationType type)
+ObjectWriter::ObjectWriter(IObjectBase const& /*element*/, SerializationType type)
     : m_object(std::make_unique<Object>()),
       m_nestedType(type == SerializationType::Shallow ? SerializationType::Reference : type)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frame/IObjectBase.h"
+#include "frame/IResourceBase.h"
 
 #include <memory>
 #include <string>
@@ -9,16 +10,21 @@
 namespace zel::kiv::common::internal {
 
 /// The value form of an element that is wanted as a reference only.
-std::unique_ptr<zel::dataformats::data::Value> makeReference(std::string const& uri);
+std::unique_ptr<zel::dataformats::data::Value> makeReference(IObjectBase const& element,
+                                                             std::string const& uri);
 
 /// Builds an array of elements in their value form. Until it is taken, what has been built belongs
 /// to the writer.
 class ArrayWriter {
 public:
-    /// Starts an empty array of elements as deep as `type` says.
-    explicit ArrayWriter(SerializationType type);
+    /// Starts the array of a resource, whose elements are written in full.
+    explicit ArrayWriter(IResourceBase const& resource);
 
-    void add(IObjectBase const& element);
+    /// Starts the array of the list under that key, whose elements are as deep as `type` says.
+    ArrayWriter(char const* key, SerializationType type);
+
+    /// `element` is not tested for null.
+    void add(IObjectBase const* element);
 
     /// Hands the array over; the writer is empty from then on.
     std::unique_ptr<zel::dataformats::data::Value> take();
@@ -32,9 +38,9 @@ private:
 /// belongs to the writer.
 class ObjectWriter {
 public:
-    /// Starts an empty object. `type` is the depth that the element itself was asked for; what is
-    /// nested in it follows from that.
-    explicit ObjectWriter(SerializationType type);
+    /// Starts the object of an element. `type` is the depth that the element itself was asked for;
+    /// what is nested in it follows from that.
+    ObjectWriter(IObjectBase const& element, SerializationType type);
 
     void addString(char const* key, std::string const& text);
     void addInt(char const* key, int number);
@@ -50,9 +56,9 @@ public:
     template <typename Element>
     [[gnu::noinline]] void addElementList(char const* key, std::vector<Element*> const& elements)
     {
-        ArrayWriter array(m_nestedType);
+        ArrayWriter array(key, m_nestedType);
         for (Element const* const element : elements) {
-            array.add(*element);
+            array.add(element);
         }
         addArray(key, array);
     }
@@ -70,11 +76,11 @@ private:
 /// The value form of a resource: its elements in slot order, each in full. No slot may be null.
 template <typename Element>
 std::unique_ptr<zel::dataformats::data::Value>
-serializeAll(std::vector<std::unique_ptr<Element>> const& elements)
+serializeAll(IResourceBase const& resource, std::vector<std::unique_ptr<Element>> const& elements)
 {
-    ArrayWriter array(SerializationType::Full);
+    ArrayWriter array(resource);
     for (auto const& element : elements) {
-        array.add(*element);
+        array.add(element.get());
     }
     return array.take();
 }

@@ -1,0 +1,217 @@
+#include "frame/internal/ObjectReader.h"
+
+#include "frame/internal/Values.h"
+
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+namespace zel::kiv::common::internal {
+
+using zel::dataformats::data::Array;
+using zel::dataformats::data::Object;
+using zel::dataformats::data::Ref;
+using zel::dataformats::data::Value;
+using zel::dataformats::data::ValueType;
+
+namespace {
+
+// What a string holds without memory of its own, in the usual standard library.
+constexpr std::string_view blanks = "               ";
+
+/// Copies the first and the last bytes of a text, which may overlap, as one word each.
+template <typename Word>
+void copyEnds(char* to, char const* from, std::size_t length)
+{
+    Word first = 0;
+    Word last = 0;
+    std::memcpy(&first, from, sizeof first);
+    std::memcpy(&last, from + length - sizeof last, sizeof last);
+    std::memcpy(to, &first, sizeof first);
+    std::memcpy(to + length - sizeof last, &last, sizeof last);
+}
+
+/// Copies a text of no more than 16 bytes without a call.
+void copyShort(char* to, char const* from, std::size_t length)
+{
+    if (length >= sizeof(std::uint64_t)) {
+        copyEnds<std::uint64_t>(to, from, length);
+    } else if (length >= sizeof(std::uint32_t)) {
+        copyEnds<std::uint32_t>(to, from, length);
+    } else if (length >= sizeof(std::uint16_t)) {
+        copyEnds<std::uint16_t>(to, from, length);
+    } else if (length != 0) {
+        *to = *from;
+    }
+}
+
+Value const* lookUp(ObjectReader::Map const& map, std::string const& key)
+{
+    auto const entry = map.find(key);
+    return entry == map.end() ? nullptr : valueOf(*entry);
+}
+
+// Not in line, so that a key that is absent costs little.
+template <auto answer, typename Setter>
+[[gnu::noinline]] void set(IObjectBase& target, Setter setter, Value const& value)
+{
+    Ref const reference(&value);
+    (target.*setter)((reference.*answer)());
+}
+
+/// A nested value in the form of an object: the value itself if it is an `Object`, else a temporary
+/// that holds what a uri tells, which is nothing if the value is no text. One is made for each
+/// field and for each entry of a list.
+class NestedObject {
+public:
+    explicit NestedObject(Value const& value) : m_current(&m_temporary)
+    {
+        // The value is only read, there and later, but what makes it an object takes and gives it
+        // as one that may be written to.
+        IObjectBase::normalizeObject(const_cast<Value&>(value), m_current);
+    }
+    ~NestedObject() = default;
+
+    NestedObject(NestedObject const&) = delete;
+    NestedObject(NestedObject&&) = delete;
+    NestedObject& operator=(NestedObject const&) = delete;
+    NestedObject& operator=(NestedObject&&) = delete;
+
+    [[nodiscard]] Object const& get() const { return *m_current; }
+
+    /// Makes an element, fills it and hands it to the owner.
+    void attach(IObjectBase& owner, Handover<IObjectBase> handover) const
+    {
+        std::unique_ptr<IObjectBase> element(handover.make());
+        element->deserialize(m_current);
+        handover.give(owner, element.release());
+    }
+
+private:
+    Object m_temporary;
+    Object* m_current;
+};
+
+/// Whom a value of that service and resource is given to, or null.
+Handover<IObjectBase> const* chosen(std::string const& resource, Targets targets,
+                                    Handover<IObjectBase> const* lastResort)
+{
+    if (resource.empty()) {
+        return nullptr;
+    }
+    for (Target const& target : targets) {
+        if (target.resource == resource) {
+            return &target.handover;
+        }
+    }
+    return lastResort;
+}
+
+} // namespace
+
+ObjectReader::ObjectReader(Map const& map, IObjectBase& target, std::size_t longestKey)
+    : m_map(&map), m_target(&target)
+{
+    if (longestKey > m_key.capacity()) {
+        m_key.reserve(longestKey);
+    }
+}
+
+// More time goes into making keys than into anything else here. A short one is a string of a fixed
+// length that is filled and cut off: with all of that in line, no call is left but the look-up.
+[[gnu::flatten, gnu::noinline]] Value const* ObjectReader::find(Key key)
+{
+    if (key.length <= blanks.size()) {
+        std::string text(blanks.data(), blanks.size());
+        copyShort(text.data(), key.text, key.length);
+        text.erase(key.length);
+        return lookUp(*m_map, text);
+    }
+    m_key.clear();
+    m_key.append(key.text, key.length);
+    return lookUp(*m_map, m_key);
+}
+
+template <typename Use>
+void ObjectReader::eachEntry(Key key, Use use)
+{
+    Value const* const value = find(key);
+    if (value == nullptr) {
+        return;
+    }
+    if (value->getType() != ValueType::Array) {
+        return;
+    }
+    // The getter of an array is not const, though it changes nothing.
+    for (Value const* const entry : const_cast<Array*>(static_cast<Array const*>(value))->get()) {
+        if (entry != nullptr) {
+            use(*entry);
+        }
+    }
+}
+
+void ObjectReader::read(Key key, StringSetter setter)
+{
+    if (Value const* const value = find(key)) {
+        set<&Ref::asString>(*m_target, setter, *value);
+    }
+}
+
+void ObjectReader::read(Key key, IntSetter setter)
+{
+    if (Value const* const value = find(key)) {
+        set<&Ref::asInteger>(*m_target, setter, *value);
+    }
+}
+
+void ObjectReader::read(Key key, DoubleSetter setter)
+{
+    if (Value const* const value = find(key)) {
+        set<&Ref::asFloat>(*m_target, setter, *value);
+    }
+}
+
+void ObjectReader::read(Key key, BoolSetter setter)
+{
+    if (Value const* const value = find(key)) {
+        set<&Ref::asBoolean>(*m_target, setter, *value);
+    }
+}
+
+void ObjectReader::read(Key key, Handover<IObjectBase> handover)
+{
+    if (Value const* const value = find(key)) {
+        NestedObject(*value).attach(*m_target, handover);
+    }
+}
+
+void ObjectReader::readPolymorphic(Key key, Targets targets,
+                                   Handover<IObjectBase> const* lastResort)
+{
+    Value const* const value = find(key);
+    if (value == nullptr) {
+        return;
+    }
+    NestedObject const nested(*value);
+    std::string const resource = IObjectBase::getServiceAndResourceString(nested.get());
+    if (auto const* const handover = chosen(resource, targets, lastResort)) {
+        nested.attach(*m_target, *handover);
+    }
+}
+
+void ObjectReader::readList(Key key, StringSetter adder)
+{
+    eachEntry(key, [&](Value const& entry) { (m_target->*adder)(Ref(&entry).asString()); });
+}
+
+void ObjectReader::readList(Key key, IntSetter adder)
+{
+    eachEntry(key, [&](Value const& entry) { (m_target->*adder)(Ref(&entry).asInteger()); });
+}
+
+void ObjectReader::readList(Key key, Handover<IObjectBase> handover)
+{
+    eachEntry(key, [&](Value const& entry) { NestedObject(entry).attach(*m_target, handover); });
+}
+
+} // namespace zel::kiv::common::internal
