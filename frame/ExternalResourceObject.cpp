@@ -1,5 +1,6 @@
 #include "frame/ExternalResourceObject.h"
 
+#include "frame/internal/Notices.h"
 #include "frame/internal/ObjectReader.h"
 #include "frame/internal/ObjectWriter.h"
 #include "frame/internal/VisitorTexts.h"
@@ -36,7 +37,9 @@ std::unique_ptr<Value> ExternalResourceObject::serialize(SerializationType type)
 bool ExternalResourceObject::deserialize(Value const* value)
 {
     ExternalResourceObjectDeserializer visitor(*this);
+    internal::notice::Reading const reading(*this, value);
     visitor.visit(value);
+    reading.done();
     return true;
 }
 

@@ -1,5 +1,6 @@
 #include "frame/IObjectBase.h"
 
+#include "frame/internal/Notices.h"
 #include "frame/internal/Values.h"
 
 namespace zel::kiv::common {
@@ -41,7 +42,11 @@ std::string IObjectBase::getServiceAndResourceString(Object const& object)
     if (entry == map.end()) {
         return {};
     }
-    std::string const& uri = static_cast<String const*>(internal::valueOf(*entry))->get();
+    Value const* const value = internal::valueOf(*entry);
+    if (internal::notice::passesUri(object, value)) {
+        return {};
+    }
+    std::string const& uri = static_cast<String const*>(value)->get();
     auto const serviceEnd = uri.find('/', 1);
     if (serviceEnd == std::string::npos) {
         return {};

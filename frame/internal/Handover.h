@@ -2,6 +2,7 @@
 
 #include "frame/IObjectBase.h"
 
+#include <cstddef>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -15,12 +16,6 @@ template <typename Base>
 struct Handover {
     IObjectBase* (*make)();
     void (*give)(Base& owner, IObjectBase* element);
-};
-
-/// One class that a polymorphic field may hold, and the service and resource that its uris name.
-struct Target {
-    std::string_view resource;
-    Handover<IObjectBase> handover;
 };
 
 template <typename Element>
@@ -42,14 +37,39 @@ template <typename Owner, typename Element, void (Owner::*accept)(std::unique_pt
 constexpr Handover<IObjectBase> handover = {make<Element>,
                                             give<IObjectBase, Owner, Element, accept>};
 
-/// The handover to a setter or adder that is not overloaded.
+/// The handover to a setter or adder that is not overloaded. It is a function since a constant
+/// would lie in memory, with addresses in it that the start of a program has to fill in.
 template <typename Base, auto accept>
 struct HandoverTo;
 
 template <typename Base, typename Owner, typename Element,
           void (Owner::*accept)(std::unique_ptr<Element>)>
 struct HandoverTo<Base, accept> {
-    static constexpr Handover<Base> value = {make<Element>, give<Base, Owner, Element, accept>};
+    [[gnu::always_inline]] static constexpr Handover<Base> get()
+    {
+        return {make<Element>, give<Base, Owner, Element, accept>};
+    }
+};
+
+/// One class that a polymorphic field may hold, and the service and resource that its uris name.
+struct Target {
+    std::string_view resource;
+    Handover<IObjectBase> handover;
+};
+
+/// Several of them, in the order in which they are tried.
+struct Targets {
+    template <std::size_t size>
+    [[gnu::always_inline]] constexpr Targets(Target const (&rows)[size])
+        : first(rows), last(rows + size)
+    {
+    }
+
+    [[nodiscard]] Target const* begin() const { return first; }
+    [[nodiscard]] Target const* end() const { return last; }
+
+    Target const* first;
+    Target const* last;
 };
 
 } // namespace zel::kiv::common::internal

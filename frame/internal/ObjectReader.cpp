@@ -1,5 +1,6 @@
 #include "frame/internal/ObjectReader.h"
 
+#include "frame/internal/Notices.h"
 #include "frame/internal/Values.h"
 
 #include <cstdint>
@@ -48,7 +49,14 @@ void copyShort(char* to, char const* from, std::size_t length)
 Value const* lookUp(ObjectReader::Map const& map, std::string const& key)
 {
     auto const entry = map.find(key);
-    return entry == map.end() ? nullptr : valueOf(*entry);
+    if (entry == map.end()) {
+        return nullptr;
+    }
+    Value const* const value = valueOf(*entry);
+    if (value == nullptr) {
+        notice::passesNull();
+    }
+    return value;
 }
 
 // Not in line, so that a key that is absent costs little.
@@ -79,18 +87,27 @@ public:
 
     [[nodiscard]] Object const& get() const { return *m_current; }
 
-    /// Makes an element, fills it and hands it to the owner.
-    void attach(IObjectBase& owner, Handover<IObjectBase> handover) const
-    {
-        std::unique_ptr<IObjectBase> element(handover.make());
-        element->deserialize(m_current);
-        handover.give(owner, element.release());
-    }
-
 private:
     Object m_temporary;
     Object* m_current;
 };
+
+/// Makes an element, fills it from the nested value and hands it to the owner.
+void attach(NestedObject const& nested, IObjectBase& owner, Handover<IObjectBase> handover)
+{
+    std::unique_ptr<IObjectBase> element(handover.make());
+    element->deserialize(&nested.get());
+    handover.give(owner, element.release());
+}
+
+// A call of its own, so that a key that is absent costs little.
+[[gnu::noinline, gnu::flatten]] void attachTo(IObjectBase& owner, Value const& value,
+                                              Handover<IObjectBase> handover)
+{
+    NestedObject const nested(value);
+    notice::readsNested(value, nested.get());
+    attach(nested, owner, handover);
+}
 
 /// Whom a value of that service and resource is given to, or null.
 Handover<IObjectBase> const* chosen(std::string const& resource, Targets targets,
@@ -115,12 +132,14 @@ ObjectReader::ObjectReader(Map const& map, IObjectBase& target, std::size_t long
     if (longestKey > m_key.capacity()) {
         m_key.reserve(longestKey);
     }
+    notice::readsFields(map);
 }
 
 // More time goes into making keys than into anything else here. A short one is a string of a fixed
 // length that is filled and cut off: with all of that in line, no call is left but the look-up.
 [[gnu::flatten, gnu::noinline]] Value const* ObjectReader::find(Key key)
 {
+    notice::asks({key.text, key.length});
     if (key.length <= blanks.size()) {
         std::string text(blanks.data(), blanks.size());
         copyShort(text.data(), key.text, key.length);
@@ -140,19 +159,24 @@ void ObjectReader::eachEntry(Key key, Use use)
         return;
     }
     if (value->getType() != ValueType::Array) {
+        notice::passesNoList(*value);
         return;
     }
+    notice::readsList(value);
     // The getter of an array is not const, though it changes nothing.
     for (Value const* const entry : const_cast<Array*>(static_cast<Array const*>(value))->get()) {
+        notice::readsEntry(entry);
         if (entry != nullptr) {
             use(*entry);
         }
     }
+    notice::endsList();
 }
 
 void ObjectReader::read(Key key, StringSetter setter)
 {
     if (Value const* const value = find(key)) {
+        notice::reads(Plain::String, *value);
         set<&Ref::asString>(*m_target, setter, *value);
     }
 }
@@ -160,6 +184,7 @@ void ObjectReader::read(Key key, StringSetter setter)
 void ObjectReader::read(Key key, IntSetter setter)
 {
     if (Value const* const value = find(key)) {
+        notice::reads(Plain::Int, *value);
         set<&Ref::asInteger>(*m_target, setter, *value);
     }
 }
@@ -167,6 +192,7 @@ void ObjectReader::read(Key key, IntSetter setter)
 void ObjectReader::read(Key key, DoubleSetter setter)
 {
     if (Value const* const value = find(key)) {
+        notice::reads(Plain::Double, *value);
         set<&Ref::asFloat>(*m_target, setter, *value);
     }
 }
@@ -174,6 +200,7 @@ void ObjectReader::read(Key key, DoubleSetter setter)
 void ObjectReader::read(Key key, BoolSetter setter)
 {
     if (Value const* const value = find(key)) {
+        notice::reads(Plain::Bool, *value);
         set<&Ref::asBoolean>(*m_target, setter, *value);
     }
 }
@@ -181,7 +208,7 @@ void ObjectReader::read(Key key, BoolSetter setter)
 void ObjectReader::read(Key key, Handover<IObjectBase> handover)
 {
     if (Value const* const value = find(key)) {
-        NestedObject(*value).attach(*m_target, handover);
+        attachTo(*m_target, *value, handover);
     }
 }
 
@@ -194,24 +221,32 @@ void ObjectReader::readPolymorphic(Key key, Targets targets,
     }
     NestedObject const nested(*value);
     std::string const resource = IObjectBase::getServiceAndResourceString(nested.get());
-    if (auto const* const handover = chosen(resource, targets, lastResort)) {
-        nested.attach(*m_target, *handover);
+    auto const* const handover = chosen(resource, targets, lastResort);
+    notice::chooses(*value, nested.get(), resource, targets, lastResort, handover);
+    if (handover != nullptr) {
+        attach(nested, *m_target, *handover);
     }
 }
 
 void ObjectReader::readList(Key key, StringSetter adder)
 {
-    eachEntry(key, [&](Value const& entry) { (m_target->*adder)(Ref(&entry).asString()); });
+    eachEntry(key, [&](Value const& entry) {
+        notice::reads(Plain::String, entry);
+        (m_target->*adder)(Ref(&entry).asString());
+    });
 }
 
 void ObjectReader::readList(Key key, IntSetter adder)
 {
-    eachEntry(key, [&](Value const& entry) { (m_target->*adder)(Ref(&entry).asInteger()); });
+    eachEntry(key, [&](Value const& entry) {
+        notice::reads(Plain::Int, entry);
+        (m_target->*adder)(Ref(&entry).asInteger());
+    });
 }
 
 void ObjectReader::readList(Key key, Handover<IObjectBase> handover)
 {
-    eachEntry(key, [&](Value const& entry) { NestedObject(entry).attach(*m_target, handover); });
+    eachEntry(key, [&](Value const& entry) { attachTo(*m_target, entry, handover); });
 }
 
 } // namespace zel::kiv::common::internal

@@ -21,21 +21,6 @@ struct Key {
     std::size_t length;
 };
 
-/// The classes that a polymorphic field may hold, in the order in which they are tried.
-struct Targets {
-    template <std::size_t size>
-    [[gnu::always_inline]] constexpr Targets(Target const (&rows)[size])
-        : first(rows), last(rows + size)
-    {
-    }
-
-    [[nodiscard]] Target const* begin() const { return first; }
-    [[nodiscard]] Target const* end() const { return last; }
-
-    Target const* first;
-    Target const* last;
-};
-
 /// Reads the fields of one element from an object, through the element's setters and adders. A key
 /// that is absent, or whose value is null, is passed over.
 class ObjectReader {
@@ -85,13 +70,13 @@ public:
     template <auto setter>
     void readElement(Key key)
     {
-        read(key, HandoverTo<IObjectBase, setter>::value);
+        read(key, HandoverTo<IObjectBase, setter>::get());
     }
 
     template <auto adder>
     void readElementList(Key key)
     {
-        readList(key, HandoverTo<IObjectBase, adder>::value);
+        readList(key, HandoverTo<IObjectBase, adder>::get());
     }
 
     /// The uri decides: the first target of its service and resource takes the value, or the last

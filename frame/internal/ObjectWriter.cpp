@@ -1,5 +1,7 @@
 #include "frame/internal/ObjectWriter.h"
 
+#include "frame/internal/Notices.h"
+
 namespace zel::kiv::common::internal {
 
 using zel::dataformats::data::Array;
@@ -10,35 +12,42 @@ using zel::dataformats::data::Object;
 using zel::dataformats::data::String;
 using zel::dataformats::data::Value;
 
-std::unique_ptr<Value> makeReference(IObjectBase const& /*element*/, std::string const& uri)
+std::unique_ptr<Value> makeReference(IObjectBase const& element, std::string const& uri)
 {
-    return std::make_unique<String>(uri);
+    auto reference = std::make_unique<String>(uri);
+    notice::writesReference(element, uri, *reference);
+    return reference;
 }
 
-ArrayWriter::ArrayWriter(IResourceBase const& /*resource*/)
+ArrayWriter::ArrayWriter(IResourceBase const& resource)
     : m_array(std::make_unique<Array>()), m_type(SerializationType::Full)
 {
+    notice::writes(resource);
 }
 
-ArrayWriter::ArrayWriter(char const* /*key*/, SerializationType type)
+ArrayWriter::ArrayWriter(char const* key, SerializationType type)
     : m_array(std::make_unique<Array>()), m_type(type)
 {
+    notice::writesList(key);
 }
 
 void ArrayWriter::add(IObjectBase const* element)
 {
+    notice::Writing const writing(element);
     m_array->pushNew(element->serialize(m_type).release());
 }
 
 std::unique_ptr<Value> ArrayWriter::take()
 {
+    notice::wroteArray(*m_array);
     return std::move(m_array);
 }
 
-ObjectWriter::ObjectWriter(IObjectBase const& /*element*/, SerializationType type)
+ObjectWriter::ObjectWriter(IObjectBase const& element, SerializationType type)
     : m_object(std::make_unique<Object>()),
       m_nestedType(type == SerializationType::Shallow ? SerializationType::Reference : type)
 {
+    notice::writes(element, type);
 }
 
 void ObjectWriter::addString(char const* key, std::string const& text)
@@ -81,6 +90,7 @@ void ObjectWriter::addIntList(char const* key, std::vector<int> const& numbers)
 
 void ObjectWriter::addElement(char const* key, IObjectBase const* element)
 {
+    notice::Writing const writing(key, element);
     m_object->setNew(key, element->serialize(m_nestedType).release());
 }
 
@@ -91,6 +101,7 @@ void ObjectWriter::addArray(char const* key, ArrayWriter& array)
 
 std::unique_ptr<Value> ObjectWriter::take()
 {
+    notice::wroteElement(*m_object);
     return std::move(m_object);
 }
 

@@ -1,5 +1,6 @@
 #include "frame/internal/Visitors.h"
 
+#include "frame/internal/Notices.h"
 #include "frame/internal/VisitorTexts.h"
 
 namespace zel::kiv::common::internal {
@@ -13,7 +14,9 @@ ElementVisitor::~ElementVisitor() = default;
 
 void ElementVisitor::read(Value const* value)
 {
+    notice::Reading const reading(*m_target, value);
     visit(value);
+    reading.done();
 }
 
 void ElementVisitor::visitNull()
@@ -55,13 +58,17 @@ ResourceVisitor::~ResourceVisitor() = default;
 
 void ResourceVisitor::read(Value const* value)
 {
+    notice::Reading const reading(*m_target, value);
     visit(value);
+    reading.done();
 }
 
 void ResourceVisitor::readEntries(Entries const& entries, Handover<IResourceBase> handover,
                                   char const* failure)
 {
+    notice::readsList(nullptr);
     for (Value const* const entry : entries) {
+        notice::readsEntry(entry);
         std::unique_ptr<IObjectBase> element(handover.make());
         if (!element->deserialize(entry)) {
             m_fault.note(failure);
@@ -69,6 +76,7 @@ void ResourceVisitor::readEntries(Entries const& entries, Handover<IResourceBase
         }
         handover.give(*m_target, element.release());
     }
+    notice::endsList();
 }
 
 void ResourceVisitor::visitNull()

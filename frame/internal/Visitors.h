@@ -87,7 +87,7 @@ protected:
     template <auto adder>
     void readEntries(Entries const& entries, char const* failure)
     {
-        readEntries(entries, HandoverTo<IResourceBase, adder>::value, failure);
+        readEntries(entries, HandoverTo<IResourceBase, adder>::get(), failure);
     }
 
 private:
