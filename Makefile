@@ -58,7 +58,7 @@ fuzz: ## a bounded fuzz run (SECONDS_EACH=60)
 	@scripts/fuzz $(SECONDS_EACH)
 
 package: ## Debian packages, and a consumer built against them
-	@scripts/install-packages build package
+	@scripts/install-packages build arm64 package
 	@scripts/package -j $(JOBS)
 	@scripts/check-reproducible -j $(JOBS)
 
