@@ -20,7 +20,7 @@ foreach(definition IN LISTS ZEL_KIV_DEFINITIONS)
 endforeach()
 list(REMOVE_DUPLICATES ZEL_KIV_CATALOGUE_SOURCES)
 
-# Only definitions reach the generator; what else lies there is its to complain of.
+# It is given the folder and not the files: what lies there and is no definition is its to complain of.
 add_custom_command(
     OUTPUT ${ZEL_KIV_SERVICE_HEADERS} ${ZEL_KIV_SERVICE_SOURCES} ${ZEL_KIV_CATALOGUE_SOURCES}
     COMMAND kivgen ${ZEL_KIV_SERVICES} ${ZEL_KIV_GENERATED}
