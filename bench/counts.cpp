@@ -1,38 +1,55 @@
 // Counts what one call of each case allocates, or runs a single case for whoever counts its
 // instructions.
-//   counts ELEMENTS                                prints "workload direction subject allocations"
-//       and, as subject "buffers", how many elements have a long key
+//   counts ELEMENTS                                prints "workload direction subject allocations
+//       bytes", these being what the result holds; subject "buffers" says how many elements have a
+//       long key
 //   counts ELEMENTS WORKLOAD DIRECTION SUBJECT     calls `measuredCall` once for that case
 
 #include "bench/Cases.h"
 
+#include <cstddef>
 #include <cstdlib>
+#include <cstring>
 #include <iostream>
 #include <new>
 
 namespace {
 
 std::size_t allocations = 0;
+std::size_t held = 0; ///< bytes that were asked for and are in use
+
+// Each piece has its size in front of it.
+constexpr std::size_t front = alignof(std::max_align_t);
 
 } // namespace
 
 void* operator new(std::size_t size)
 {
-    ++allocations;
-    if (void* const memory = std::malloc(size)) {
-        return memory;
+    auto* const piece = static_cast<char*>(std::malloc(front + size));
+    if (piece == nullptr) {
+        throw std::bad_alloc();
     }
-    throw std::bad_alloc();
+    std::memcpy(piece, &size, sizeof size);
+    ++allocations;
+    held += size;
+    return piece + front;
 }
 
 void operator delete(void* memory) noexcept
 {
-    std::free(memory);
+    if (memory == nullptr) {
+        return;
+    }
+    char* const piece = static_cast<char*>(memory) - front;
+    std::size_t size = 0;
+    std::memcpy(&size, piece, sizeof size);
+    held -= size;
+    std::free(piece);
 }
 
 void operator delete(void* memory, std::size_t /*size*/) noexcept
 {
-    std::free(memory);
+    operator delete(memory);
 }
 
 // What is counted is this function with all that it calls; its name is known to the scripts.
@@ -76,7 +93,7 @@ int main(int count, char** arguments)
         if (!single) {
             std::cout << workload.name << " deserialize buffers "
                       << elementsWithLongKeys(workload, *bench::document(workload, elements))
-                      << '\n';
+                      << " 0\n";
         }
         for (bench::Case const& each : casesOf(workload, elements)) {
             if (single && (each.direction != arguments[3] || each.subject != arguments[4])) {
@@ -85,10 +102,11 @@ int main(int count, char** arguments)
             found = true;
             bench::Result result;
             std::size_t const before = allocations;
+            std::size_t const heldBefore = held;
             measuredCall(each, result);
             // One allocation is that of the result's own holder.
             std::cout << each.workload << ' ' << each.direction << ' ' << each.subject << ' '
-                      << allocations - before - 1 << '\n';
+                      << allocations - before - 1 << ' ' << held - heldBefore << '\n';
         }
     }
     if (!found) {

@@ -1,5 +1,4 @@
-#include "bench/Cases.h"
-#include "bench/Mirrors.h"
+#include "bench/peers/Road.h"
 
 #include <boost/json.hpp>
 
@@ -8,6 +7,13 @@ namespace bench {
 namespace {
 
 namespace json = boost::json;
+using zel::dataformats::data::Array;
+using zel::dataformats::data::Boolean;
+using zel::dataformats::data::Float;
+using zel::dataformats::data::Integer;
+using zel::dataformats::data::Object;
+using zel::dataformats::data::String;
+using zel::dataformats::data::Value;
 
 template <typename Field>
 void take(json::value const& value, Field& field)
@@ -68,24 +74,65 @@ json::value give(Field const& field)
     }
 }
 
+Value* bringBack(json::value const& value)
+{
+    switch (value.kind()) {
+    case json::kind::null:
+        return nullptr;
+    case json::kind::bool_:
+        return new Boolean(value.get_bool());
+    case json::kind::int64:
+    case json::kind::uint64:
+        return new Integer(value.to_number<int>());
+    case json::kind::double_:
+        return new Float(value.get_double());
+    case json::kind::string:
+        return new String(std::string(value.get_string()));
+    case json::kind::array: {
+        auto array = std::make_unique<Array>();
+        for (json::value const& entry : value.get_array()) {
+            array->pushNew(bringBack(entry));
+        }
+        return array.release();
+    }
+    case json::kind::object: {
+        auto object = std::make_unique<Object>();
+        for (auto const& entry : value.get_object()) {
+            object->setNew(std::string(entry.key()).c_str(), bringBack(entry.value()));
+        }
+        return object.release();
+    }
+    }
+    return nullptr;
+}
+
+struct BoostJson {
+    using Json = json::value;
+
+    static Json bring(Value const* value)
+    {
+        return Bringing<Json, json::array, json::object>::bring(value);
+    }
+    static Value* bringBack(Json const& value) { return bench::bringBack(value); }
+    template <typename Field>
+    static void take(Json const& value, Field& field)
+    {
+        bench::take(value, field);
+    }
+    template <typename Field>
+    static Json give(Field const& field)
+    {
+        return bench::give(field);
+    }
+};
+
 } // namespace
 
 void addBoostJson(std::vector<Case>& cases, Workload const& workload, Document const& document)
 {
     mirror::withRoot(workload.resource, [&]<typename Root>(Root) {
-        using Mirrors = std::vector<typename Root::Element>;
-        auto const mirrors = std::make_shared<Mirrors>();
-        read(*document, *mirrors);
-        auto const tree = std::make_shared<json::value>(give(*mirrors));
-        std::string const name(workload.name);
-        cases.push_back({name, "deserialize", "boost", mirrors->size(), [tree] {
-                             auto result = std::make_unique<Mirrors>();
-                             take(*tree, *result);
-                             return Result(std::move(result));
-                         }});
-        cases.push_back({name, "serialize", "boost", mirrors->size(), [mirrors] {
-                             return Result(std::make_unique<json::value>(give(*mirrors)));
-                         }});
+        addJsonCases<BoostJson, std::vector<typename Root::Element>>(cases, workload, document,
+                                                                     "boost");
     });
 }
 

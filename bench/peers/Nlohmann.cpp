@@ -1,5 +1,4 @@
-#include "bench/Cases.h"
-#include "bench/Mirrors.h"
+#include "bench/peers/Road.h"
 
 #include <nlohmann/json.hpp>
 
@@ -8,6 +7,13 @@ namespace bench {
 namespace {
 
 using nlohmann::json;
+using zel::dataformats::data::Array;
+using zel::dataformats::data::Boolean;
+using zel::dataformats::data::Float;
+using zel::dataformats::data::Integer;
+using zel::dataformats::data::Object;
+using zel::dataformats::data::String;
+using zel::dataformats::data::Value;
 
 template <typename Field>
 void take(json const& value, Field& field)
@@ -60,23 +66,64 @@ json give(Field const& field)
     }
 }
 
+Value* bringBack(json const& value)
+{
+    if (value.is_boolean()) {
+        return new Boolean(value.get<bool>());
+    }
+    if (value.is_number_integer()) {
+        return new Integer(value.get<int>());
+    }
+    if (value.is_number_float()) {
+        return new Float(value.get<double>());
+    }
+    if (value.is_string()) {
+        return new String(value.get_ref<std::string const&>());
+    }
+    if (value.is_array()) {
+        auto array = std::make_unique<Array>();
+        for (json const& entry : value) {
+            array->pushNew(bringBack(entry));
+        }
+        return array.release();
+    }
+    if (value.is_object()) {
+        auto object = std::make_unique<Object>();
+        for (auto const& entry : value.get_ref<json::object_t const&>()) {
+            object->setNew(entry.first.c_str(), bringBack(entry.second));
+        }
+        return object.release();
+    }
+    return nullptr;
+}
+
+struct Nlohmann {
+    using Json = json;
+
+    static Json bring(Value const* value)
+    {
+        return Bringing<Json, json::array_t, json::object_t>::bring(value);
+    }
+    static Value* bringBack(Json const& value) { return bench::bringBack(value); }
+    template <typename Field>
+    static void take(Json const& value, Field& field)
+    {
+        bench::take(value, field);
+    }
+    template <typename Field>
+    static Json give(Field const& field)
+    {
+        return bench::give(field);
+    }
+};
+
 } // namespace
 
 void addNlohmann(std::vector<Case>& cases, Workload const& workload, Document const& document)
 {
     mirror::withRoot(workload.resource, [&]<typename Root>(Root) {
-        using Mirrors = std::vector<typename Root::Element>;
-        auto const mirrors = std::make_shared<Mirrors>();
-        read(*document, *mirrors);
-        auto const tree = std::make_shared<json>(give(*mirrors));
-        std::string const name(workload.name);
-        cases.push_back({name, "deserialize", "nlohmann", mirrors->size(), [tree] {
-                             auto result = std::make_unique<Mirrors>();
-                             take(*tree, *result);
-                             return Result(std::move(result));
-                         }});
-        cases.push_back({name, "serialize", "nlohmann", mirrors->size(),
-                         [mirrors] { return Result(std::make_unique<json>(give(*mirrors))); }});
+        addJsonCases<Nlohmann, std::vector<typename Root::Element>>(cases, workload, document,
+                                                                    "nlohmann");
     });
 }
 
