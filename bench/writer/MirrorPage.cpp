@@ -84,9 +84,9 @@ std::array<Field, 3> const& externalFields()
         {{{{"getId", {}}, {"setId", {}}}},
          {{{"getName", {}}, {"setName", {}}}},
          {{{"getUri", {}}, {"setUri", {}}}}}};
-    static std::array<Field, 3> const fields{{{"id", Kind::String, {}, accessors[0]},
-                                              {"name", Kind::String, {}, accessors[1]},
-                                              {"uri", Kind::String, {}, accessors[2]}}};
+    static std::array<Field, 3> const fields{{{"id", Kind::String, "", {}, accessors[0]},
+                                              {"name", Kind::String, "", {}, accessors[1]},
+                                              {"uri", Kind::String, "", {}, accessors[2]}}};
     return fields;
 }
 
