@@ -16,7 +16,9 @@ using zel::dataformats::data::Object;
 using zel::dataformats::data::String;
 using zel::dataformats::data::Value;
 using zel::dataformats::data::ValueType;
+using zel::kiv::catalogue::Content;
 using zel::kiv::catalogue::Field;
+using zel::kiv::catalogue::isList;
 using zel::kiv::catalogue::isNested;
 using zel::kiv::catalogue::Kind;
 using zel::kiv::catalogue::Resource;
@@ -79,7 +81,7 @@ private:
         if (!shown || level == m_shown.depth || field.kind == Kind::Polymorphic) {
             return;
         }
-        if (!zel::kiv::catalogue::isList(field.kind)) {
+        if (!isList(field.kind)) {
             object.setNew(field.key.data(), nested(field, seed, level).release());
             return;
         }
@@ -91,7 +93,7 @@ private:
 
     std::unique_ptr<Object> nested(Field const& field, int seed, int level) const
     {
-        if (field.targets.front() != nullptr) {
+        if (!field.targets.front()->isExternal()) {
             return element(*field.targets.front(), seed, level + 1);
         }
         auto reference = std::make_unique<Object>();
@@ -104,28 +106,32 @@ private:
 
     static std::unique_ptr<Value> plainValue(Resource const& resource, Field const& field, int seed)
     {
-        switch (field.kind) {
-        case Kind::Int:
-            return std::make_unique<Integer>(seed * 31 + static_cast<int>(field.key.size()));
-        case Kind::Double:
-            return std::make_unique<Float>(seed + 0.25);
-        case Kind::Bool:
-            return std::make_unique<Boolean>(seed % 2 == 0);
-        case Kind::StringList: {
-            auto array = std::make_unique<Array>();
-            array->pushNew(new String(text(resource, field, seed)));
-            array->pushNew(new String(text(resource, field, seed + 1)));
-            return array;
+        if (!isList(field.kind)) {
+            return plainEntry(resource, field, seed,
+                              seed * 31 + static_cast<int>(field.key.size()));
         }
-        case Kind::IntList: {
-            auto array = std::make_unique<Array>();
-            array->pushNew(new Integer(seed));
-            array->pushNew(new Integer(-seed));
-            return array;
-        }
-        default:
+        auto array = std::make_unique<Array>();
+        array->pushNew(plainEntry(resource, field, seed, seed).release());
+        array->pushNew(plainEntry(resource, field, seed + 1, -seed).release());
+        return array;
+    }
+
+    static std::unique_ptr<Value> plainEntry(Resource const& resource, Field const& field, int seed,
+                                             int number)
+    {
+        switch (traitsOf(field.kind).content) {
+        case Content::String:
             return std::make_unique<String>(text(resource, field, seed));
+        case Content::Integer:
+            return std::make_unique<Integer>(number);
+        case Content::Float:
+            return std::make_unique<Float>(seed + 0.25);
+        case Content::Boolean:
+            return std::make_unique<Boolean>(seed % 2 == 0);
+        case Content::Object:
+            break;
         }
+        throw std::logic_error("a nested field where a plain one is meant");
     }
 
     /// About one text in three is long enough to need memory of its own.
@@ -147,7 +153,7 @@ private:
 
 std::size_t longKeysIn(Resource const* resource, Value const& value)
 {
-    if (resource == nullptr) {
+    if (resource->isExternal()) {
         return 0;
     }
     if (value.getType() == ValueType::Array) {

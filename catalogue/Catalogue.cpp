@@ -6,10 +6,31 @@
 
 namespace zel::kiv::catalogue {
 
+Accessor const* Field::find(Purpose purpose) const
+{
+    auto const found = std::ranges::find(accessors, purpose, &Accessor::purpose);
+    return found != accessors.end() ? &*found : nullptr;
+}
+
+Accessor const& Field::writer() const
+{
+    return *find(isList(kind) ? Purpose::Add : Purpose::Set);
+}
+
+bool Field::hasLastResort() const
+{
+    return kind == Kind::Polymorphic && std::ranges::count(targets, &external()) > 0;
+}
+
 Field const* Resource::find(std::string_view key) const
 {
     auto const found = std::ranges::lower_bound(fields, key, {}, &Field::key);
     return found != fields.end() && found->key == key ? &*found : nullptr;
+}
+
+Resource const& external()
+{
+    return table[tableSize];
 }
 
 std::span<Resource const> resources()

@@ -22,6 +22,10 @@ struct Resource;
 struct Accessor {
     std::string_view name;      ///< `getPosition`
     std::string_view signature; ///< as in the class: `int getPosition() const`
+    Purpose purpose;
+    /// Of the setters and presence accessors of a polymorphic field the target that each is for,
+    /// otherwise null.
+    Resource const* target;
 };
 
 /// One field of an element.
@@ -29,22 +33,38 @@ struct Field {
     std::string_view key;
     Kind kind;
     std::string_view note; ///< a sentence on it, or empty where there is nothing to say
-    /// What the field may hold, null standing for `ExternalResourceObject`: empty for plain kinds,
-    /// one entry for element and external kinds, for polymorphic all in the order of the flags.
-    /// The dispatch order is the same without the null.
+    /// What the field may hold, `external()` among it: empty for plain kinds, one entry for element
+    /// and external kinds, for polymorphic all in the order of the flags. None is null. The
+    /// dispatch order is the same without `external()`, which is tried last.
     std::span<Resource const* const> targets;
     std::span<Accessor const> accessors; ///< in the order of the class
+
+    /// The first accessor for that purpose. Every field has one but for `Set` and `Add`, of which a
+    /// list has the latter and any other field the former: null is given for the other.
+    [[nodiscard]] Accessor const* find(Purpose purpose) const;
+
+    /// The setter or adder, whichever the field has.
+    [[nodiscard]] Accessor const& writer() const;
+
+    /// Whether a value that is of no other target becomes an external reference.
+    [[nodiscard]] bool hasLastResort() const;
 };
+
+/// The namespace that the names of all classes start from.
+inline constexpr std::string_view rootNamespace = "zel::kiv::common";
 
 /// One resource and its element.
 struct Resource {
-    std::string_view service;      ///< `radio`
-    std::string_view name;         ///< the resource class, `Presets`
-    std::string_view element;      ///< the element class, `PresetObject`
-    std::string_view resourceKey;  ///< `presets`
-    std::string_view elementKey;   ///< `presetObject`
-    std::string_view about;        ///< what one element is, one or two sentences
-    std::span<Field const> fields; ///< in ascending byte order of keys, `id`, `name`, `uri` too
+    std::string_view service;       ///< `radio`
+    std::string_view name;          ///< the resource class, `Presets`
+    std::string_view element;       ///< the element class, `PresetObject`
+    std::string_view resourceKey;   ///< `presets`
+    std::string_view elementKey;    ///< `presetObject`
+    std::string_view header;        ///< of both classes, `services/radio/Presets.h`
+    std::string_view resourceClass; ///< in the root namespace, `radio::Presets`
+    std::string_view elementClass;  ///< in the root namespace, `radio::Presets::PresetObject`
+    std::string_view about;         ///< what one element is, one or two sentences
+    std::span<Field const> fields;  ///< in ascending byte order of keys, `id`, `name`, `uri` too
     /// Makes an empty resource. May throw `std::bad_alloc`.
     std::unique_ptr<common::IResourceBase> (*makeResource)();
     /// Makes an empty element. May throw `std::bad_alloc`.
@@ -52,6 +72,8 @@ struct Resource {
 
     /// The field of that key, or null.
     [[nodiscard]] Field const* find(std::string_view key) const;
+
+    [[nodiscard]] bool isExternal() const { return service.empty(); }
 };
 
 /// One service.
@@ -67,6 +89,11 @@ std::span<Service const> services();
 
 /// The service of that name, or null.
 Service const* findService(std::string_view name);
+
+/// What stands for everything outside the interface: the element `ExternalResourceObject` with its
+/// three fields, in no service and of no resource. `makeResource` is null, and what there is no
+/// name for is empty.
+Resource const& external();
 
 /// All resources, by service and then by class name, in ascending byte order.
 std::span<Resource const> resources();

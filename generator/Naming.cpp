@@ -98,12 +98,41 @@ std::string presenceName(std::string_view key)
     return "is" + stemOf(key) + "Set";
 }
 
-std::string presenceName(std::string_view key, Target const& target, std::string_view element)
+std::string presenceName(std::string_view key, Resource const& target)
 {
-    std::string const type =
-        target.isExternal() ? std::string{"ExternalResourceObject"}
-                            : stemOf(target.service) + stemOf(target.resource) + stemOf(element);
-    return "is" + type + stemOf(key) + "Set";
+    return "is" + stemOf(target.service) + target.name + target.element + stemOf(key) + "Set";
+}
+
+std::string headerOf(Resource const& resource)
+{
+    if (resource.isExternal()) {
+        return "frame/ExternalResourceObject.h";
+    }
+    return "services/" + resource.service + '/' + resource.name + ".h";
+}
+
+std::string resourceClassOf(Resource const& resource)
+{
+    return resource.isExternal() ? "" : resource.service + "::" + resource.name;
+}
+
+std::string elementClassOf(Resource const& resource)
+{
+    std::string const outer = resourceClassOf(resource);
+    return outer.empty() ? resource.element : outer + "::" + resource.element;
+}
+
+std::string enumeratorOf(Kind kind)
+{
+    std::string name;
+    char before = ' ';
+    for (char const each : zel::kiv::catalogue::wordOf(kind)) {
+        if (each != ' ') {
+            name += before == ' ' ? raisedLetter(each) : each;
+        }
+        before = each;
+    }
+    return name;
 }
 
 std::vector<std::string> accessorNames(Field const& field, Interface const& interface)
@@ -116,10 +145,8 @@ std::vector<std::string> accessorNames(Field const& field, Interface const& inte
         return names;
     }
     for (Target const& target : field.targets) {
-        if (target.isExternal()) {
-            names.push_back(presenceName(field.key, target, {}));
-        } else if (auto const* const resource = interface.find(target.service, target.resource)) {
-            names.push_back(presenceName(field.key, target, resource->element));
+        if (auto const* const resource = interface.find(target)) {
+            names.push_back(presenceName(field.key, *resource));
         }
     }
     return names;

@@ -25,9 +25,21 @@ std::string adderName(std::string_view key);
 /// The presence accessor of every kind but polymorphic: `isDoorStateSet`.
 std::string presenceName(std::string_view key);
 
-/// The presence accessor of one target of a polymorphic field, `element` being the target's element
-/// class: `isRadioStationsStationObjectStationSet`. An external target needs no `element`.
-std::string presenceName(std::string_view key, Target const& target, std::string_view element);
+/// The presence accessor of one target of a polymorphic field:
+/// `isRadioStationsStationObjectStationSet`.
+std::string presenceName(std::string_view key, Resource const& target);
+
+/// The header that the resource's classes stand in, as clients include it:
+/// `services/radio/Presets.h`.
+std::string headerOf(Resource const& resource);
+
+/// The classes as code in the root namespace names them: `radio::Presets`, and
+/// `radio::Presets::PresetObject`. What is external has no resource class.
+std::string resourceClassOf(Resource const& resource);
+std::string elementClassOf(Resource const& resource);
+
+/// The enumerator of a kind, `StringList`; the frame's operations for the kind are named by it too.
+std::string enumeratorOf(Kind kind);
 
 /// The names of all accessors of a field, in the order of the class: getter, setter or adder,
 /// presence. The setter overloads of a polymorphic field count once; a target that the interface

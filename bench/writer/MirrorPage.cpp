@@ -1,6 +1,7 @@
 #include "bench/writer/Pages.h"
 
-#include <array>
+#include <stdexcept>
+#include <string_view>
 
 namespace benchwriter {
 
@@ -9,22 +10,20 @@ using zel::kiv::catalogue::Kind;
 
 namespace {
 
-std::string structOf(Resource const* resource)
+/// The namespace of the plain structures of one service.
+std::string spaceOf(Resource const& resource)
 {
-    if (resource == nullptr) {
-        return "mirror::ExternalResourceObject";
-    }
-    return "mirror::" + std::string(resource->service) + "::" + std::string(resource->element);
+    return "mirror" + (resource.isExternal() ? "" : "::" + std::string(resource.service));
 }
 
-std::string classOf(Resource const* resource)
+std::string structOf(Resource const& resource)
 {
-    std::string const root = "zel::kiv::common::";
-    if (resource == nullptr) {
-        return root + "ExternalResourceObject";
-    }
-    return root + std::string(resource->service) + "::" + std::string(resource->name) +
-           "::" + std::string(resource->element);
+    return spaceOf(resource) + "::" + std::string(resource.element);
+}
+
+std::string inRoot(std::string_view name)
+{
+    return std::string(zel::kiv::catalogue::rootNamespace) + "::" + std::string(name);
 }
 
 std::string typeOf(Field const& field)
@@ -44,24 +43,23 @@ std::string typeOf(Field const& field)
         return "std::vector<int>";
     case Kind::Element:
     case Kind::External:
-        return "std::unique_ptr<" + structOf(field.targets.front()) + ">";
-    default:
-        return "std::vector<" + structOf(field.targets.front()) + ">";
+        return "std::unique_ptr<" + structOf(*field.targets.front()) + ">";
+    case Kind::ElementList:
+    case Kind::ExternalList:
+        return "std::vector<" + structOf(*field.targets.front()) + ">";
+    case Kind::Polymorphic:
+        break;
     }
+    throw std::logic_error("a field that no document has");
 }
 
-/// The setter or adder stands second among the accessors, behind the getter.
-std::string setterOf(Field const& field)
+std::string linesOf(Resource const& resource, std::set<std::string>& keys)
 {
-    return std::string(field.accessors[1].name);
-}
-
-std::string linesOf(std::string const& name, std::string const& className,
-                    std::span<Field const> fields, std::set<std::string>& keys)
-{
+    std::string const name(resource.element);
+    std::string const className = inRoot(resource.elementClass);
     std::string members;
     std::string visits;
-    for (Field const& field : fields) {
+    for (Field const& field : resource.fields) {
         // No document has a field of this kind.
         if (field.kind == Kind::Polymorphic) {
             continue;
@@ -70,45 +68,26 @@ std::string linesOf(std::string const& name, std::string const& className,
         keys.insert(key);
         members += "    " + typeOf(field) + ' ' + key + "_;\n";
         visits += "    visit(keys::" + key + "_, &" + name + "::" + key + "_, &" + className +
-                  "::" + setterOf(field) + ");\n";
+                  "::" + std::string(field.writer().name) + ");\n";
     }
     return "struct " + name + " {\n    using Class = " + className + ";\n" + members +
            "};\n\ntemplate <typename Visit>\nvoid eachField(" + name +
            " const* /*type*/, Visit&& visit)\n{\n" + visits + "}\n";
 }
 
-std::array<Field, 3> const& externalFields()
-{
-    using zel::kiv::catalogue::Accessor;
-    static std::array<std::array<Accessor, 2>, 3> const accessors{
-        {{{{"getId", {}}, {"setId", {}}}},
-         {{{"getName", {}}, {"setName", {}}}},
-         {{{"getUri", {}}, {"setUri", {}}}}}};
-    static std::array<Field, 3> const fields{{{"id", Kind::String, "", {}, accessors[0]},
-                                              {"name", Kind::String, "", {}, accessors[1]},
-                                              {"uri", Kind::String, "", {}, accessors[2]}}};
-    return fields;
-}
-
 } // namespace
 
 Files mirrorPage(Resources const& resources, std::span<Resource const* const> roots)
 {
-    std::string includes = "#include \"frame/ExternalResourceObject.h\"\n";
+    std::string includes;
     std::string declarations;
     std::set<std::string> keys;
-    std::string structs =
-        "namespace mirror {\n\n" +
-        linesOf("ExternalResourceObject", classOf(nullptr), externalFields(), keys) + "\n}\n\n";
+    std::string structs;
     for (Resource const* resource : resources) {
-        std::string const space = "namespace mirror::" + std::string(resource->service) + " {\n";
-        includes += "#include \"services/" + std::string(resource->service) + '/' +
-                    std::string(resource->name) + ".h\"\n";
+        std::string const space = "namespace " + spaceOf(*resource) + " {\n";
+        includes += "#include \"" + std::string(resource->header) + "\"\n";
         declarations += space + "struct " + std::string(resource->element) + ";\n}\n";
-        structs +=
-            space + '\n' +
-            linesOf(std::string(resource->element), classOf(resource), resource->fields, keys) +
-            "\n}\n\n";
+        structs += space + '\n' + linesOf(*resource, keys) + "\n}\n\n";
     }
     std::string strings;
     for (std::string const& key : keys) {
@@ -116,10 +95,9 @@ Files mirrorPage(Resources const& resources, std::span<Resource const* const> ro
     }
     std::string dispatch;
     for (Resource const* root : roots) {
-        std::string const name = std::string(root->service) + "::" + std::string(root->name);
-        dispatch += "    if (resource == \"" + name +
-                    "\") {\n        visit(Root<zel::kiv::common::" + name + ", " + structOf(root) +
-                    ">{});\n    }\n";
+        dispatch += "    if (resource == \"" + std::string(root->resourceClass) +
+                    "\") {\n        visit(Root<" + inRoot(root->resourceClass) + ", " +
+                    structOf(*root) + ">{});\n    }\n";
     }
     return {{"Mirror.h",
              "#pragma once\n\n" + includes +

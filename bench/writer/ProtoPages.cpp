@@ -1,6 +1,7 @@
 #include "bench/writer/Pages.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <vector>
 
 namespace benchwriter {
@@ -10,12 +11,11 @@ using zel::kiv::catalogue::Kind;
 
 namespace {
 
-std::string messageOf(Resource const* resource)
+std::string messageOf(Resource const& resource)
 {
-    if (resource == nullptr) {
-        return "ExternalResourceObject";
-    }
-    return raised(resource->service) + std::string(resource->name) + std::string(resource->element);
+    std::string const element(resource.element);
+    return resource.isExternal() ? element
+                                 : raised(resource.service) + std::string(resource.name) + element;
 }
 
 std::string typeOf(Field const& field)
@@ -35,10 +35,14 @@ std::string typeOf(Field const& field)
         return "repeated int32";
     case Kind::Element:
     case Kind::External:
-        return "optional " + messageOf(field.targets.front());
-    default:
-        return "repeated " + messageOf(field.targets.front());
+        return "optional " + messageOf(*field.targets.front());
+    case Kind::ElementList:
+    case Kind::ExternalList:
+        return "repeated " + messageOf(*field.targets.front());
+    case Kind::Polymorphic:
+        break;
     }
+    throw std::logic_error("a field of several types has none of its own");
 }
 
 std::string rowsOf(Field const& field, int& number)
@@ -50,7 +54,7 @@ std::string rowsOf(Field const& field, int& number)
     std::string rows = "  oneof " + key + " {\n";
     for (Resource const* target : field.targets) {
         ++number;
-        rows += "    " + messageOf(target) + ' ' + key + "_" + std::to_string(number) + " = " +
+        rows += "    " + messageOf(*target) + ' ' + key + "_" + std::to_string(number) + " = " +
                 std::to_string(number) + ";\n";
     }
     return rows + "  }\n";
@@ -58,14 +62,17 @@ std::string rowsOf(Field const& field, int& number)
 
 std::string messagesOf(Resource const& resource)
 {
-    std::string const element = messageOf(&resource);
+    std::string const element = messageOf(resource);
     std::string rows;
     int number = 0;
     for (Field const& field : resource.fields) {
         rows += rowsOf(field, number);
     }
-    return "message " + element + " {\n" + rows + "}\n\nmessage " + raised(resource.service) +
-           std::string(resource.name) + " {\n  repeated " + element + " objects = 1;\n}\n\n";
+    std::string const message = "message " + element + " {\n" + rows + "}\n\n";
+    return resource.isExternal()
+               ? message
+               : message + "message " + raised(resource.service) + std::string(resource.name) +
+                     " {\n  repeated " + element + " objects = 1;\n}\n\n";
 }
 
 std::set<std::string> servicesHeldBy(std::string_view service)
@@ -78,7 +85,9 @@ std::set<std::string> servicesHeldBy(std::string_view service)
     }
     std::set<std::string> services;
     for (Resource const* resource : reachableFrom(own)) {
-        services.emplace(resource->service);
+        if (!resource->isExternal()) {
+            services.emplace(resource->service);
+        }
     }
     return services;
 }
@@ -103,9 +112,7 @@ Files protoPages()
         return service + ".proto";
     };
     std::string const head = "syntax = \"proto2\";\npackage peer;\n";
-    Files files{
-        {"external.proto", head + "\nmessage ExternalResourceObject {\n  optional string id = 1;\n"
-                                  "  optional string name = 2;\n  optional string uri = 3;\n}\n"}};
+    Files files{{"external.proto", head + '\n' + messagesOf(zel::kiv::catalogue::external())}};
     std::map<std::string, std::set<std::string>> imports;
     std::map<std::string, std::string> messages;
     for (Resource const& resource : zel::kiv::catalogue::resources()) {
@@ -113,8 +120,8 @@ Files protoPages()
         messages[file] += messagesOf(resource);
         for (Field const& field : resource.fields) {
             for (Resource const* target : field.targets) {
-                imports[file].insert(target == nullptr ? "external.proto"
-                                                       : fileOf(std::string(target->service)));
+                imports[file].insert(target->isExternal() ? "external.proto"
+                                                          : fileOf(std::string(target->service)));
             }
         }
         imports[file].erase(file);

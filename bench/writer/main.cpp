@@ -22,7 +22,7 @@ Resources reachableFrom(Resources const& roots)
     while (!open.empty()) {
         Resource const* const resource = open.back();
         open.pop_back();
-        if (resource == nullptr || !reached.insert(resource).second) {
+        if (!reached.insert(resource).second) {
             continue;
         }
         for (auto const& field : resource->fields) {

@@ -2,18 +2,24 @@
 
 #include "generator/model/Model.h"
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kivgen {
 
+using zel::kiv::catalogue::Purpose;
+
 /// One operation of an element class that belongs to a field. Without a parameter it is const.
 struct Accessor {
+    Purpose purpose;
     std::string about;
     std::string result;
     std::string name;
-    std::string parameter; ///< its type; it is always called `value`
-    std::string body;      ///< one or more statements, not indented
+    std::string parameter;        ///< its type; it is always called `value`
+    std::string body;             ///< one or more statements, not indented
+    std::optional<Target> target; ///< the one of several targets that it is for
 };
 
 /// All that one field contributes to the code of its element. Each part is indented as it will
@@ -32,26 +38,21 @@ struct FieldCode {
 /// What the kind of the field makes of it.
 FieldCode codeOf(Field const& field, Interface const& interface);
 
-/// The header that a target's class stands in, as clients include it.
-std::string headerOf(Target const& target);
-
-/// The target's class as code in the root namespace names it: `radio::Stations::StationObject`.
-std::string classOf(Target const& target, Interface const& interface);
-
 /// The member that stores a field, and the flag beside it. A key holds no underscore, so these
 /// names collide neither with each other nor with a word of the language.
 std::string memberOf(Field const& field);
 std::string flagOf(Field const& field);
+
+/// The member as it is declared, `type` being its type.
+std::string declared(Field const& field, std::string_view type);
+
+/// A C++ type of the table of kinds, `T` being the class `held`.
+std::string typeFor(std::string_view type, std::string_view held);
 
 /// The presence accessor of every kind but polymorphic.
 Accessor presenceOf(Field const& field);
 
 /// The step of `serialize`; `word` is the kind's in the name of the frame's operation.
 std::string writeStep(Field const& field, std::string const& word);
-
-/// Adds the steps of `serialize` and of the visitor of a plain kind, which differ by names alone:
-/// `word` is the kind's in the names of the frame's operations, `accept` the setter or adder.
-void addSteps(FieldCode& code, Field const& field, std::string const& word,
-              std::string const& accept);
 
 } // namespace kivgen

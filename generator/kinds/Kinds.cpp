@@ -11,48 +11,21 @@ FieldCode codeOf(Field const& field, Interface const& interface)
 {
     switch (field.kind) {
     case Kind::String:
-        return kinds::stringCode(field);
-    case Kind::StringList:
-        return kinds::stringListCode(field);
     case Kind::Int:
-        return kinds::intCode(field);
-    case Kind::IntList:
-        return kinds::intListCode(field);
     case Kind::Double:
-        return kinds::doubleCode(field);
     case Kind::Bool:
-        return kinds::boolCode(field);
+    case Kind::StringList:
+    case Kind::IntList:
+        return kinds::plainCode(field);
     case Kind::Element:
-    case Kind::External:
-        return kinds::elementCode(field, interface);
     case Kind::ElementList:
+    case Kind::External:
     case Kind::ExternalList:
-        return kinds::elementListCode(field, interface);
+        return kinds::elementCode(field, interface);
     case Kind::Polymorphic:
         return kinds::polymorphicCode(field, interface);
     }
     throw std::logic_error("a field without a kind: " + field.key);
-}
-
-std::string headerOf(Target const& target)
-{
-    if (target.isExternal()) {
-        return "frame/ExternalResourceObject.h";
-    }
-    return "services/" + target.service + '/' + target.resource + ".h";
-}
-
-std::string classOf(Target const& target, Interface const& interface)
-{
-    if (target.isExternal()) {
-        return "ExternalResourceObject";
-    }
-    auto const* const resource = interface.find(target.service, target.resource);
-    if (resource == nullptr) {
-        throw std::logic_error("a target that was not checked: " + target.service +
-                               "::" + target.resource);
-    }
-    return target.service + "::" + target.resource + "::" + resource->element;
 }
 
 std::string memberOf(Field const& field)
@@ -65,24 +38,37 @@ std::string flagOf(Field const& field)
     return memberOf(field) + "_isSet";
 }
 
+std::string declared(Field const& field, std::string_view type)
+{
+    std::string const initial{zel::kiv::catalogue::traitsOf(field.kind).initial};
+    return std::string(type) + ' ' + memberOf(field) +
+           (initial.empty() ? ";" : " = " + initial + ';');
+}
+
+std::string typeFor(std::string_view type, std::string_view held)
+{
+    std::string result{type};
+    if (auto const place = result.find('T'); place != std::string::npos) {
+        result.replace(place, 1, held);
+    }
+    return result;
+}
+
 Accessor presenceOf(Field const& field)
 {
-    return {"Whether `" + field.key + "` is set.", "bool", presenceName(field.key), "",
-            "return " + flagOf(field) + ";\n"};
+    return {Purpose::Presence,
+            "Whether `" + field.key + "` is set.",
+            "bool",
+            presenceName(field.key),
+            "",
+            "return " + flagOf(field) + ";\n",
+            {}};
 }
 
 std::string writeStep(Field const& field, std::string const& word)
 {
     return wrapped(8, "object.add" + word + "(", {'"' + field.key + '"', memberOf(field)}, ",",
                    ");");
-}
-
-void addSteps(FieldCode& code, Field const& field, std::string const& word,
-              std::string const& accept)
-{
-    code.write = writeStep(field, word);
-    code.read = wrapped(8, "fields.read" + word + "(",
-                        {'"' + field.key + '"', "&Element::" + accept}, ",", ");");
 }
 
 } // namespace kivgen

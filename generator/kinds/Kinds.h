@@ -2,19 +2,17 @@
 
 #include "generator/kinds/FieldCode.h"
 
-/// One function for each file of kinds; `codeOf` calls the one that fits.
+/// One function for each form of field; kinds of one form differ in the table of kinds alone.
+/// `codeOf` calls the one that fits.
 namespace kivgen::kinds {
 
-FieldCode stringCode(Field const& field);
-FieldCode stringListCode(Field const& field);
-FieldCode intCode(Field const& field);
-FieldCode intListCode(Field const& field);
-FieldCode doubleCode(Field const& field);
-FieldCode boolCode(Field const& field);
+/// Texts, numbers and flags, and lists of them.
+FieldCode plainCode(Field const& field);
 
-/// External fields too: they are element fields whose target is the same everywhere.
+/// One element or a list of them, of a resource or external.
 FieldCode elementCode(Field const& field, Interface const& interface);
-FieldCode elementListCode(Field const& field, Interface const& interface);
+
+/// An element of one of several classes.
 FieldCode polymorphicCode(Field const& field, Interface const& interface);
 
 } // namespace kivgen::kinds

@@ -1,45 +1,61 @@
-#include "generator/kinds/Plain.h"
-
 #include "generator/Naming.h"
+#include "generator/Printer.h"
+#include "generator/kinds/Kinds.h"
 
 namespace kivgen::kinds {
 
-FieldCode plainCode(Field const& field, Plain const& plain)
+namespace {
+
+Accessor getterOf(Field const& field, bool isList)
 {
-    std::string const member = memberOf(field);
-    std::string const flag = flagOf(field);
-    FieldCode code;
-    code.accessors = {
-        {"The `" + field.key + "`; " + std::string(plain.unset) + " while it is not set.",
-         std::string(plain.result), getterName(field.key), "", "return " + member + ";\n"},
-        {"Sets `" + field.key + "`, whatever the value.", "void", setterName(field.key),
-         std::string(plain.parameter), member + " = value;\n" + flag + " = true;\n"},
-        presenceOf(field),
-    };
-    code.members = {std::string(plain.type) + ' ' + member + std::string(plain.initial) + ';',
-                    "bool " + flag + " = false;"};
-    code.flags = {flag};
-    addSteps(code, field, std::string(plain.word), setterName(field.key));
-    return code;
+    auto const traits = zel::kiv::catalogue::traitsOf(field.kind);
+    return {Purpose::Get,
+            std::string(isList ? "A copy of the list `" : "The `") + field.key + "`; " +
+                std::string(traits.unset) + " while it is not set.",
+            std::string(traits.result),
+            getterName(field.key),
+            "",
+            "return " + memberOf(field) + ";\n",
+            {}};
 }
 
-FieldCode plainListCode(Field const& field, Plain const& plain)
+Accessor setterOf(Field const& field)
 {
-    std::string const member = memberOf(field);
-    std::string const flag = flagOf(field);
-    std::string const type = "std::vector<" + std::string(plain.type) + '>';
+    return {Purpose::Set,
+            "Sets `" + field.key + "`, whatever the value.",
+            "void",
+            setterName(field.key),
+            std::string(zel::kiv::catalogue::traitsOf(field.kind).parameter),
+            memberOf(field) + " = value;\n" + flagOf(field) + " = true;\n",
+            {}};
+}
+
+Accessor adderOf(Field const& field)
+{
+    return {Purpose::Add,
+            "Appends to the list `" + field.key + "`, which is set from then on.",
+            "void",
+            adderName(field.key),
+            std::string(zel::kiv::catalogue::traitsOf(field.kind).parameter),
+            memberOf(field) + ".push_back(value);\n" + flagOf(field) + " = true;\n",
+            {}};
+}
+
+} // namespace
+
+FieldCode plainCode(Field const& field)
+{
+    bool const isList = zel::kiv::catalogue::isList(field.kind);
+    Accessor const accept = isList ? adderOf(field) : setterOf(field);
+    std::string const word = enumeratorOf(field.kind);
     FieldCode code;
-    code.accessors = {
-        {"A copy of the list `" + field.key + "`; empty while it is not set.", type,
-         getterName(field.key), "", "return " + member + ";\n"},
-        {"Appends to the list `" + field.key + "`, which is set from then on.", "void",
-         adderName(field.key), std::string(plain.parameter),
-         member + ".push_back(value);\n" + flag + " = true;\n"},
-        presenceOf(field),
-    };
-    code.members = {type + ' ' + member + ';', "bool " + flag + " = false;"};
-    code.flags = {flag};
-    addSteps(code, field, std::string(plain.word) + "List", adderName(field.key));
+    code.accessors = {getterOf(field, isList), accept, presenceOf(field)};
+    code.members = {declared(field, zel::kiv::catalogue::traitsOf(field.kind).stored),
+                    "bool " + flagOf(field) + " = false;"};
+    code.flags = {flagOf(field)};
+    code.write = writeStep(field, word);
+    code.read = wrapped(8, "fields.read" + word + "(",
+                        {'"' + field.key + '"', "&Element::" + accept.name}, ",", ");");
     return code;
 }
 

@@ -8,15 +8,10 @@ namespace kivgen::kinds {
 
 namespace {
 
-std::string elementNameOf(Target const& target, Interface const& interface)
-{
-    return target.isExternal() ? "" : interface.find(target.service, target.resource)->element;
-}
-
 /// The flag of one target beside the stored pointer.
 std::string flagOf(Field const& field, Target const& target, Interface const& interface)
 {
-    std::string const presence = presenceName(field.key, target, elementNameOf(target, interface));
+    std::string const presence = presenceName(field.key, interface.at(target));
     auto const ending = (stemOf(field.key) + "Set").size();
     return memberOf(field) + '_' + presence.substr(0, presence.size() - ending);
 }
@@ -28,18 +23,28 @@ Accessor setterOf(Field const& field, Target const& target, Interface const& int
         bool const own = flagOf(field, each, interface) == flagOf(field, target, interface);
         body += flagOf(field, each, interface) + (own ? " = true;\n" : " = false;\n");
     }
-    std::string const held = classOf(target, interface);
-    return {"Sets `" + field.key +
+    auto const traits = zel::kiv::catalogue::traitsOf(field.kind);
+    return {Purpose::Set,
+            "Sets `" + field.key +
                 "` to an element of this class and takes it over. An element held before is not "
                 "freed: whoever replaces it keeps its pointer and frees it.",
-            "void", setterName(field.key), "std::unique_ptr<" + held + '>', body};
+            "void",
+            setterName(field.key),
+            typeFor(traits.parameter, elementClassOf(interface.at(target))),
+            body,
+            target};
 }
 
 Accessor presenceOf(Field const& field, Target const& target, Interface const& interface)
 {
-    return {"Whether `" + field.key + "` holds a `" + classOf(target, interface) + "`.", "bool",
-            presenceName(field.key, target, elementNameOf(target, interface)), "",
-            "return " + flagOf(field, target, interface) + ";\n"};
+    Resource const& held = interface.at(target);
+    return {Purpose::Presence,
+            "Whether `" + field.key + "` holds a `" + elementClassOf(held) + "`.",
+            "bool",
+            presenceName(field.key, held),
+            "",
+            "return " + flagOf(field, target, interface) + ";\n",
+            target};
 }
 
 constexpr std::string_view handover = "internal::handover<";
@@ -48,13 +53,13 @@ constexpr std::string_view handover = "internal::handover<";
 std::vector<std::string> argumentsOf(Field const& field, Target const& target,
                                      Interface const& interface)
 {
-    return {"Element", "common::" + classOf(target, interface),
+    return {"Element", "common::" + elementClassOf(interface.at(target)),
             "&Element::" + setterName(field.key)};
 }
 
 std::string rowOf(Field const& field, Target const& target, Interface const& interface)
 {
-    auto const& resource = *interface.find(target.service, target.resource);
+    Resource const& resource = interface.at(target);
     std::string const start = "{\"" + target.service + '/' + resource.resourceKey + "\",";
     std::string const beside = start + ' ' + std::string(handover);
     std::vector<std::string> const arguments = argumentsOf(field, target, interface);
@@ -106,13 +111,19 @@ FieldCode polymorphicCode(Field const& field, Interface const& interface)
 {
     std::string const member = memberOf(field);
     FieldCode code;
-    code.members = {"IObjectBase* " + member + " = nullptr;"};
-    code.accessors = {{"The element under `" + field.key +
+    auto const traits = zel::kiv::catalogue::traitsOf(field.kind);
+    code.members = {declared(field, traits.stored)};
+    code.accessors = {{Purpose::Get,
+                       "The element under `" + field.key +
                            "`, not handed over; null while it is not set. Its class is told by "
                            "the accessors below.",
-                       "IObjectBase*", getterName(field.key), "", "return " + member + ";\n"}};
+                       std::string(traits.result),
+                       getterName(field.key),
+                       "",
+                       "return " + member + ";\n",
+                       {}}};
     for (Target const& target : field.targets) {
-        code.includes.push_back(headerOf(target));
+        code.includes.push_back(headerOf(interface.at(target)));
         code.flags.push_back(flagOf(field, target, interface));
         code.members.push_back("bool " + code.flags.back() + " = false;");
         code.accessors.push_back(setterOf(field, target, interface));

@@ -150,7 +150,7 @@ void Reader::readOverride(Entry const& entry, std::string_view className, std::s
 
 void addImplied(Definition& definition)
 {
-    for (auto const* const key : {"id", "name", "uri"}) {
+    for (auto const* const key : commonKeys) {
         definition.keys.emplace_back(key);
         definition.resource.fields.push_back(
             {key, Kind::String, {}, definition.resource.place, {}});

@@ -61,7 +61,7 @@ Target targetOf(std::string_view text)
 
 bool Reader::isKey(Entry const& row)
 {
-    if (row.key == "id" || row.key == "name" || row.key == "uri") {
+    if (std::ranges::find(commonKeys, row.key) != commonKeys.end()) {
         fail(row.place, "every element has " + inQuotes(row.key) + "; remove the row");
         return false;
     }

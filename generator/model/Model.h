@@ -2,6 +2,7 @@
 
 #include "catalogue/Kind.h"
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -10,6 +11,9 @@
 namespace kivgen {
 
 using zel::kiv::catalogue::Kind;
+
+/// The keys that every element has, in ascending byte order.
+inline constexpr std::array<char const*, 3> commonKeys{"id", "name", "uri"};
 
 /// A place in a definition. Lines and columns count from 1; 0 means the file as a whole.
 struct SourcePosition {
@@ -37,7 +41,7 @@ struct Field {
 
 /// One resource and its element.
 struct Resource {
-    std::string service;
+    std::string service; ///< empty for what stands for everything outside the interface
     std::string name;    ///< the resource class, `Presets`
     std::string element; ///< the element class, `PresetObject`
     std::string resourceKey;
@@ -45,6 +49,8 @@ struct Resource {
     std::string about;         ///< what one element is
     std::vector<Field> fields; ///< all of them, `id`, `name` and `uri` too, in byte order of keys
     SourcePosition place;
+
+    [[nodiscard]] bool isExternal() const { return service.empty(); }
 };
 
 /// One service.
@@ -55,13 +61,20 @@ struct Service {
     SourcePosition place;
 };
 
+/// What an external target leads to: an element of no resource, with the common fields alone.
+Resource externalResource();
+
 /// Everything: the resources by service, then by class name, and the services, in byte order.
 struct Interface {
     std::vector<Resource> resources;
     std::vector<Service> services;
+    Resource external = externalResource();
 
-    /// The resource of that service and class name, or null.
-    [[nodiscard]] Resource const* find(std::string const& service, std::string const& name) const;
+    /// The resource that the target names, `external` too, or null.
+    [[nodiscard]] Resource const* find(Target const& target) const;
+
+    /// The same of a target that was checked. Throws `std::logic_error` if it was not.
+    [[nodiscard]] Resource const& at(Target const& target) const;
 };
 
 } // namespace kivgen

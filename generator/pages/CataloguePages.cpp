@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <map>
 #include <set>
+#include <stdexcept>
 
 namespace kivgen {
 
@@ -15,14 +16,20 @@ constexpr std::string_view table = R"(
 $mark$all definitions
 #include "catalogue/Table.h"
 
+#include "frame/ExternalResourceObject.h"
+
 namespace zel::kiv::catalogue {
 
 namespace make {
 $makers$
+std::unique_ptr<common::IObjectBase> externalElement()
+{
+    return std::make_unique<common::ExternalResourceObject>();
+}
 } // namespace make
 
 // With its size, which those who point into it before it is defined need to know.
-extern Resource const table[$size$];
+extern Resource const table[$rowCount$];
 
 namespace {
 
@@ -34,7 +41,7 @@ $fields$
 
 } // namespace
 
-Resource const table[$size$] = {
+Resource const table[$rowCount$] = {
 $rows$
 };
 
@@ -76,23 +83,22 @@ std::string literal(std::string_view text)
 /// The word by which a resource's functions and rows go: `radioPresets`.
 std::string wordOf(Resource const& resource)
 {
-    return resource.service + resource.name;
+    return resource.isExternal() ? "external" : resource.service + resource.name;
 }
 
-std::string enumeratorOf(Kind kind)
+std::string_view wordOf(Purpose purpose)
 {
-    std::string name;
-    std::string_view const word = zel::kiv::catalogue::wordOf(kind);
-    bool raised = true;
-    for (char const each : word) {
-        if (each == ' ') {
-            raised = true;
-            continue;
-        }
-        name += raised ? stemOf(std::string(1, each)) : std::string(1, each);
-        raised = false;
+    switch (purpose) {
+    case Purpose::Get:
+        return "Get";
+    case Purpose::Set:
+        return "Set";
+    case Purpose::Add:
+        return "Add";
+    case Purpose::Presence:
+        return "Presence";
     }
-    return "Kind::" + name;
+    throw std::logic_error("an accessor without a purpose");
 }
 
 std::string makerDeclarations(Resource const& resource)
@@ -159,13 +165,13 @@ private:
     std::map<std::string, std::size_t> m_places;
 };
 
-/// The place of each resource in the table.
+/// The address of the target's row in the table; that of what is external is the last.
 std::string pointerTo(Target const& target, Interface const& interface)
 {
-    if (target.isExternal()) {
-        return "nullptr";
-    }
-    auto const place = interface.find(target.service, target.resource) - interface.resources.data();
+    auto const& resources = interface.resources;
+    auto const place = target.isExternal()
+                           ? resources.size()
+                           : static_cast<std::size_t>(&interface.at(target) - resources.data());
     return "table + " + std::to_string(place);
 }
 
@@ -173,7 +179,9 @@ std::vector<std::string> accessorRows(Field const& field, Interface const& inter
 {
     std::vector<std::string> rows;
     for (Accessor const& each : codeOf(field, interface).accessors) {
-        rows.push_back("{" + literal(each.name) + ", " + literal(signatureOf(each)) + "}");
+        rows.push_back("{" + literal(each.name) + ", " + literal(signatureOf(each)) +
+                       ", Purpose::" + std::string(wordOf(each.purpose)) + ", " +
+                       (each.target ? pointerTo(*each.target, interface) : "nullptr") + "}");
     }
     return rows;
 }
@@ -187,13 +195,30 @@ std::vector<std::string> targetRows(Field const& field, Interface const& interfa
     return rows;
 }
 
+std::vector<std::string> fieldRows(Resource const& resource, Interface const& interface,
+                                   Rows& targets, Rows& accessors)
+{
+    std::vector<std::string> rows;
+    for (Field const& field : resource.fields) {
+        rows.push_back("{" + literal(field.key) + ", Kind::" + enumeratorOf(field.kind) + ", " +
+                       literal(field.note) + ", " + targets.add(targetRows(field, interface)) +
+                       ", " + accessors.add(accessorRows(field, interface)) + "}");
+    }
+    return rows;
+}
+
 std::string resourceRow(Resource const& resource, std::string const& fields)
 {
+    std::string row = "    {";
+    for (std::string const& text :
+         {resource.service, resource.name, resource.element, resource.resourceKey,
+          resource.elementKey, headerOf(resource), resourceClassOf(resource),
+          elementClassOf(resource), resource.about}) {
+        row += literal(text) + ", ";
+    }
     std::string const word = wordOf(resource);
-    return "    {" + literal(resource.service) + ", " + literal(resource.name) + ", " +
-           literal(resource.element) + ", " + literal(resource.resourceKey) + ", " +
-           literal(resource.elementKey) + ", " + literal(resource.about) + ", " + fields +
-           ", &make::" + word + ", &make::" + word + "Element},\n";
+    return row + fields + ", " + (resource.isExternal() ? "nullptr" : "&make::" + word) +
+           ", &make::" + word + "Element},\n";
 }
 
 std::string serviceRow(Service const& service, Interface const& interface)
@@ -217,15 +242,11 @@ Page cataloguePage(Interface const& interface)
     std::string rows;
     for (Resource const& resource : interface.resources) {
         declarations += makerDeclarations(resource);
-        std::vector<std::string> ownFields;
-        for (Field const& field : resource.fields) {
-            ownFields.push_back("{" + literal(field.key) + ", " + enumeratorOf(field.kind) + ", " +
-                                literal(field.note) + ", " +
-                                targets.add(targetRows(field, interface)) + ", " +
-                                accessors.add(accessorRows(field, interface)) + "}");
-        }
-        rows += resourceRow(resource, fields.add(ownFields));
+        rows +=
+            resourceRow(resource, fields.add(fieldRows(resource, interface, targets, accessors)));
     }
+    rows += resourceRow(interface.external,
+                        fields.add(fieldRows(interface.external, interface, targets, accessors)));
     std::string serviceRows;
     for (Service const& service : interface.services) {
         serviceRows += serviceRow(service, interface);
@@ -237,6 +258,7 @@ Page cataloguePage(Interface const& interface)
                          {"targets", targets.text()},
                          {"fields", fields.text()},
                          {"size", std::to_string(interface.resources.size())},
+                         {"rowCount", std::to_string(interface.resources.size() + 1)},
                          {"rows", rows},
                          {"services", std::to_string(interface.services.size())},
                          {"serviceRows", serviceRows}})};

@@ -1,3 +1,4 @@
+#include "generator/Naming.h"
 #include "generator/Printer.h"
 #include "generator/pages/Pages.h"
 #include "generator/pages/Signatures.h"
@@ -108,7 +109,7 @@ std::string resourceAbout(Resource const& resource)
 
 Page headerPage(Resource const& resource, Interface const& interface)
 {
-    std::string const own = "services/" + resource.service + '/' + resource.name + ".h";
+    std::string const own = headerOf(resource);
     std::set<std::string> headers;
     std::string declarations;
     std::string members;

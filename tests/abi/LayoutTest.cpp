@@ -187,14 +187,8 @@ TEST(Layout, OfEveryResourceIsItsSlots)
 
 TEST(Layout, OfExternalReferencesIsThatOfAnElement)
 {
-    std::array<catalogue::Field, 3> const fields{{{"id", Kind::String, {}, {}},
-                                                  {"name", Kind::String, {}, {}},
-                                                  {"uri", Kind::String, {}, {}}}};
-    checkElement(
-        []() -> std::unique_ptr<common::IObjectBase> {
-            return std::make_unique<common::ExternalResourceObject>();
-        },
-        "externalResourceObject", fields);
+    checkElement(catalogue::external().makeElement, "externalResourceObject",
+                 catalogue::external().fields);
 
     Mirror visitor(sizeof(data::ConstVisitor));
     visitor.add<bool>();

@@ -27,13 +27,9 @@ std::string raised(std::string_view word)
     return result;
 }
 
-std::string classOf(Resource const* resource)
+std::string classOf(Resource const& resource)
 {
-    if (resource == nullptr) {
-        return "common::ExternalResourceObject";
-    }
-    return "common::" + std::string(resource->service) + "::" + std::string(resource->name) +
-           "::" + std::string(resource->element);
+    return "common::" + std::string(resource.elementClass);
 }
 
 /// The operation of `ElementFields` that takes the accessors of that kind, with their types.
@@ -54,10 +50,10 @@ std::string operationOf(Field const& field)
         return "plain<std::vector<int>, int>";
     case Kind::Element:
     case Kind::External:
-        return "element<" + classOf(field.targets.front()) + ">";
+        return "element<" + classOf(*field.targets.front()) + ">";
     case Kind::ElementList:
     case Kind::ExternalList:
-        return "elements<" + classOf(field.targets.front()) + ">";
+        return "elements<" + classOf(*field.targets.front()) + ">";
     case Kind::Polymorphic:
         return "polymorphic";
     }
@@ -69,12 +65,9 @@ std::string polymorphicArguments(Field const& field)
     std::string const stem = raised(field.key);
     std::string targets;
     for (Resource const* const target : field.targets) {
-        std::string const word =
-            target == nullptr
-                ? "ExternalResourceObject"
-                : raised(target->service) + raised(target->name) + raised(target->element);
-        targets +=
-            "target<" + classOf(target) + ">(&E::set" + stem + ", &E::is" + word + stem + "Set), ";
+        std::string const word = target->isExternal() ? "" : raised(target->service);
+        targets += "target<" + classOf(*target) + ">(&E::set" + stem + ", &E::is" + word +
+                   std::string(target->name) + std::string(target->element) + stem + "Set), ";
     }
     return "&E::get" + stem + ", {" + targets + "}";
 }
@@ -91,9 +84,9 @@ std::string arguments(Field const& field)
 
 std::string functionOf(Resource const& resource)
 {
-    std::string text = "{\n    using E = " + classOf(&resource) + ";\n";
-    text += "    ElementFields fields = fieldsOf<common::" + std::string(resource.service) +
-            "::" + std::string(resource.name) + ", E>();\n";
+    std::string text = "{\n    using E = " + classOf(resource) + ";\n";
+    text += "    ElementFields fields = fieldsOf<common::" + std::string(resource.resourceClass) +
+            ", E>();\n";
     for (Field const& field : resource.fields) {
         text += "    fields." + operationOf(field) + "(\"" + std::string(field.key) + "\", " +
                 arguments(field) + ");\n";
@@ -128,8 +121,7 @@ int main(int count, char** arguments)
     std::map<std::string, std::string> bodies;
     for (Resource const& resource : catalogue::resources()) {
         std::string const service(resource.service);
-        includes[service] +=
-            "#include \"services/" + service + '/' + std::string(resource.name) + ".h\"\n";
+        includes[service] += "#include \"" + std::string(resource.header) + "\"\n";
         bodies[service] += functionOf(resource);
     }
     std::string declarations;

@@ -35,13 +35,13 @@ std::string written(data::Value const* value)
 
 std::string rewritten(std::string const& text)
 {
-    return written(readToml("f", textSource(text)).value.get());
+    return written(readDocument("f", textSource(text)).value.get());
 }
 
 std::string faultOf(std::string const& text)
 {
     try {
-        readToml("f", textSource(text, 1));
+        readDocument("f", textSource(text, 1));
     } catch (Failure const& failure) {
         return failure.where() + " " + failure.what();
     }
@@ -76,7 +76,7 @@ TEST(JsonReader, everyPlaceIsKnown)
     // Two bytes and four bytes count as one column each; chunks of one byte have seams everywhere.
     std::string const text =
         "\n {\"ä😀\" : [ 12,\r\n\ttrue ,[], null],\n  \"k\":\"\\\"}\", \"k\":-1.5}";
-    Document const document = readToml("f", textSource(text, 1));
+    Document const document = readDocument("f", textSource(text, 1));
     auto const& object = static_cast<data::Object const&>(*document.value);
     auto const members = document.places.below(object);
 

@@ -3,8 +3,6 @@
 #include "values/values.h"
 
 #include <algorithm>
-#include <array>
-#include <span>
 #include <utility>
 
 namespace model {
@@ -14,20 +12,10 @@ namespace {
 namespace catalogue = zel::kiv::catalogue;
 namespace data = zel::dataformats::data;
 
+using catalogue::Content;
 using catalogue::Field;
 using catalogue::Kind;
 using data::ValueType;
-
-constexpr std::array<Field, 3> externalFields{{
-    {"id", Kind::String, {}, {}},
-    {"name", Kind::String, {}, {}},
-    {"uri", Kind::String, {}, {}},
-}};
-
-std::span<Field const> fieldsOf(catalogue::Resource const* resource)
-{
-    return resource == nullptr ? std::span<Field const>(externalFields) : resource->fields;
-}
 
 data::Value const* valueUnder(data::Object const& object, std::string_view key)
 {
@@ -43,17 +31,18 @@ std::string const& textOf(data::Value const& value)
 Tree plainTree(Kind kind, data::Value const& value)
 {
     data::Ref const ref(&value);
-    switch (kind) {
-    case Kind::Int:
-    case Kind::IntList:
+    switch (catalogue::traitsOf(kind).content) {
+    case Content::Integer:
         return {ref.asInteger()};
-    case Kind::Double:
+    case Content::Float:
         return {ref.asFloat()};
-    case Kind::Bool:
+    case Content::Boolean:
         return {ref.asBoolean()};
-    default:
-        return {ref.asString()};
+    case Content::String:
+    case Content::Object:
+        break;
     }
+    return {ref.asString()};
 }
 
 /// The uri that a polymorphic field goes by.
@@ -92,12 +81,12 @@ Choice choose(Field const& field, std::string_view uri)
         return {};
     }
     for (auto const* const target : field.targets) {
-        if (target != nullptr &&
+        if (!target->isExternal() &&
             name == std::string(target->service) + '/' + std::string(target->resourceKey)) {
             return {true, target};
         }
     }
-    return {std::ranges::count(field.targets, nullptr) > 0, nullptr};
+    return {std::ranges::count(field.targets, &catalogue::external()) > 0, &catalogue::external()};
 }
 
 void Element::read(data::Value const* value)
@@ -106,7 +95,7 @@ void Element::read(data::Value const* value)
         return;
     }
     auto const& object = static_cast<data::Object const&>(*value);
-    for (Field const& field : fieldsOf(m_resource)) {
+    for (Field const& field : m_resource->fields) {
         if (auto const* const found = valueUnder(object, field.key)) {
             readField(field, *found);
         }
@@ -165,7 +154,7 @@ void Element::readNested(data::Value const& value)
 
 void Element::setText(std::string_view key, std::string const& text)
 {
-    hold({key, Kind::String, {}, {}}).plain.push_back({text});
+    hold(*m_resource->find(key)).plain.push_back({text});
 }
 
 /// The place for what the field is about to hold: behind what it holds already if it is a list.

@@ -18,7 +18,7 @@ namespace model {
 /// An element as it must be after the values that it has read.
 class Element {
 public:
-    /// An element with no field set, of that resource or, for null, an `ExternalResourceObject`.
+    /// An element with no field set.
     explicit Element(zel::kiv::catalogue::Resource const* resource) : m_resource(resource) {}
 
     /// Reads a value, which may be null, on top of those read before.
@@ -75,8 +75,7 @@ private:
 Collection modelOf(zel::kiv::catalogue::Resource const& resource,
                    zel::dataformats::data::Value const* value);
 
-/// Whether an element is made for a polymorphic field, and of what resource: null for an
-/// `ExternalResourceObject`.
+/// Whether an element is made for a polymorphic field, and of what resource.
 struct Choice {
     bool made = false;
     zel::kiv::catalogue::Resource const* resource = nullptr;

@@ -106,7 +106,7 @@ std::string RandomTree::uri(Resource const* resource)
 {
     auto const all = catalogue::resources();
     auto const& other = all[below(all.size())];
-    if (resource == nullptr) {
+    if (resource == nullptr || resource->isExternal()) {
         resource = &other;
     }
     std::string const service(oneIn(8) ? other.service : resource->service);
@@ -224,14 +224,6 @@ std::unique_ptr<data::Object> RandomTree::objectOf(Resource const* resource)
         std::string const key = unknownKey(resource);
         object->setNew(key.c_str(), anything(2).release());
     }
-    if (resource == nullptr) {
-        for (char const* const key : {"id", "name", "uri"}) {
-            if (oneIn(2)) {
-                object->setNew(key, forField({key, Kind::String, {}, {}}).release());
-            }
-        }
-        return object;
-    }
     auto const fields = resource->fields;
     std::size_t const start = below(fields.size());
     std::size_t const oneTaken = 1 + below(4);
@@ -289,7 +281,10 @@ std::unique_ptr<data::Value> RandomTree::forEntry(Field const& field)
         return std::make_unique<data::Boolean>(oneIn(2));
     case Kind::Polymorphic:
         return forPolymorphic(field);
-    default:
+    case Kind::Element:
+    case Kind::ElementList:
+    case Kind::External:
+    case Kind::ExternalList:
         break;
     }
     if (oneIn(3)) {

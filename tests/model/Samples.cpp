@@ -11,6 +11,7 @@ namespace {
 
 namespace catalogue = zel::kiv::catalogue;
 
+using catalogue::Content;
 using catalogue::Kind;
 using zel::kiv::common::IObjectBase;
 using zel::kiv::common::SerializationType;
@@ -37,27 +38,26 @@ Resource const* targetOf(Field const& field, std::size_t variant)
 
 std::string uriFor(Resource const* target, std::size_t variant)
 {
-    std::string const name = target == nullptr ? "elsewhere/things" : nameOf(*target);
+    std::string const name = target->isExternal() ? "elsewhere/things" : nameOf(*target);
     return '/' + name + '/' + std::to_string(variant);
 }
 
 /// One value or one entry of a list.
 Tree entrySample(Field const& field, std::size_t place, std::size_t variant, int depth)
 {
-    switch (field.kind) {
-    case Kind::String:
-    case Kind::StringList:
+    switch (catalogue::traitsOf(field.kind).content) {
+    case Content::String:
         return {textFor(field, place)};
-    case Kind::Int:
-    case Kind::IntList:
+    case Content::Integer:
         return {numberFor(field, place)};
-    case Kind::Double:
+    case Content::Float:
         return {numberFor(field, place) + 0.5};
-    case Kind::Bool:
+    case Content::Boolean:
         return {variant % 2 == 0};
-    default:
-        return sampleOf(targetOf(field, variant), variant + place, depth - 1);
+    case Content::Object:
+        break;
     }
+    return sampleOf(targetOf(field, variant), variant + place, depth - 1);
 }
 
 /// The element with each nested element in another form.
@@ -109,7 +109,7 @@ Tree fieldSample(Field const& field, std::size_t variant, int depth)
 Tree sampleOf(Resource const* resource, std::size_t variant, int depth)
 {
     std::string const uri = uriFor(resource, variant);
-    if (resource == nullptr) {
+    if (resource->isExternal()) {
         return {Tree::Map{
             {"id", {std::string("9")}}, {"name", {std::string("outside")}}, {"uri", {uri}}}};
     }

@@ -12,6 +12,7 @@ namespace {
 using zel::kiv::catalogue::Accessor;
 using zel::kiv::catalogue::Field;
 using zel::kiv::catalogue::Kind;
+using zel::kiv::catalogue::Purpose;
 using zel::kiv::catalogue::Resource;
 
 constexpr std::string_view hostile = R"(<b id="x">'&amp;)";
@@ -19,11 +20,15 @@ constexpr std::string_view hostile = R"(<b id="x">'&amp;)";
 /// Whatever a definition may come to say stays text: no letter of it becomes HTML.
 TEST(ResourcePage, NothingOfADefinitionIsTakenForHtml)
 {
-    std::array const accessors{Accessor{"getIt", "std::vector<x> getIt() const"},
-                               Accessor{"setIt", "void setIt(<script> value)"},
-                               Accessor{"isItSet", "bool isItSet() const"}};
-    std::array const fields{Field{hostile, Kind::Int, {}, accessors}};
+    std::array const accessors{
+        Accessor{"getIt", "std::vector<x> getIt() const", Purpose::Get, nullptr},
+        Accessor{"setIt", "void setIt(<script> value)", Purpose::Set, nullptr},
+        Accessor{"isItSet", "bool isItSet() const", Purpose::Presence, nullptr}};
+    std::array const fields{Field{hostile, Kind::Int, hostile, {}, accessors}};
     Resource const resource{hostile,
+                            hostile,
+                            hostile,
+                            hostile,
                             hostile,
                             hostile,
                             hostile,

@@ -54,7 +54,7 @@ std::vector<Step> wayToItself(Resource const& resource)
                 if (target == &resource) {
                     return way;
                 }
-                if (target != nullptr && ways.try_emplace(target, way).second) {
+                if (ways.try_emplace(target, way).second) {
                     next.push_back(target);
                 }
             }

@@ -39,11 +39,11 @@ TEST(Interface, hasAllItsServicesResourcesAndFields)
             add(field.key);
             add(catalogue::wordOf(field.kind));
             for (auto const* const target : field.targets) {
-                add(target == nullptr ? "external" : target->name);
+                add(target->isExternal() ? "external" : target->name);
             }
             ++ofKind.at(static_cast<std::size_t>(field.kind));
             for (auto const& accessor : field.accessors) {
-                owningSetters += accessor.name.starts_with("set") &&
+                owningSetters += accessor.purpose == catalogue::Purpose::Set &&
                                          accessor.signature.find("unique_ptr") != std::string::npos
                                      ? 1
                                      : 0;

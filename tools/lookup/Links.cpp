@@ -9,7 +9,7 @@ Links linksOf(std::set<zel::kiv::catalogue::Resource const*> const& resources)
         for (auto const& field : holder.fields) {
             for (auto const* held : field.targets) {
                 bool const isAsked = resources.contains(&holder) || resources.contains(held);
-                if (held != nullptr && isAsked) {
+                if (!held->isExternal() && isAsked) {
                     links[{&holder, held}].push_back(&field);
                 }
             }

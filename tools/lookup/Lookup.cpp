@@ -86,7 +86,7 @@ std::vector<std::string_view> services()
 
 std::string nameOf(catalogue::Resource const* resource)
 {
-    if (resource == nullptr) {
+    if (resource->isExternal()) {
         return "external";
     }
     return std::string(resource->service) + "/" + std::string(resource->resourceKey);
@@ -104,12 +104,6 @@ std::vector<std::string> targetNames(catalogue::Field const& field)
         names.push_back(nameOf(target));
     }
     return names;
-}
-
-bool hasLastResort(catalogue::Field const& field)
-{
-    return field.kind == catalogue::Kind::Polymorphic &&
-           std::find(field.targets.begin(), field.targets.end(), nullptr) != field.targets.end();
 }
 
 std::vector<FieldOf> holdersOf(catalogue::Resource const& resource)

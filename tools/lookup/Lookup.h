@@ -25,8 +25,8 @@ std::vector<catalogue::Resource const*> resourcesOf(std::string_view service);
 /// The services, in ascending byte order.
 std::vector<std::string_view> services();
 
-/// The name of a resource as uris spell it, `radio/presets`. Null stands for what is outside the
-/// interface: `external`.
+/// The name of a resource as uris spell it, `radio/presets`; what is outside the interface is
+/// `external`.
 std::string nameOf(catalogue::Resource const* resource);
 
 /// The field with its resource, `radio/presets.station`.
@@ -34,9 +34,6 @@ std::string nameOf(FieldOf const& place);
 
 /// The targets of a field, by name and in the order of its flags.
 std::vector<std::string> targetNames(catalogue::Field const& field);
-
-/// Whether the field takes an external reference when the uri names none of its other targets.
-bool hasLastResort(catalogue::Field const& field);
 
 /// The fields that may hold an element of `resource`, in the order of the catalogue.
 std::vector<FieldOf> holdersOf(catalogue::Resource const& resource);

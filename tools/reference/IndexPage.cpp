@@ -85,11 +85,11 @@ Data kindData(Kind kind)
             }
         }
     }
-    auto const& words = textsOf(kind);
+    auto const words = textsOf(kind);
     Data data;
     data.set("kind", std::string(wordOf(kind)));
     data.set("place", anchorOf(kind));
-    data.set("stored", breakable(words.stored));
+    data.set("stored", breakable(traitsOf(kind).stored));
     data.set("ownership", std::string(words.ownership));
     data.set("written", std::string(words.written));
     data.set("count", kiv::counted(count, "field"));

@@ -1,9 +1,11 @@
 #include "tools/reference/KindTexts.h"
 
 #include <algorithm>
-#include <array>
+#include <stdexcept>
 
 namespace reference {
+
+using zel::kiv::catalogue::Kind;
 
 namespace {
 
@@ -11,29 +13,38 @@ constexpr std::string_view oneOwned = "owned; the getter lends the pointer";
 constexpr std::string_view manyOwned = "owned; the getter copies the list of pointers";
 constexpr std::string_view oneWritten = "an Object; shallow and below: a String holding its uri";
 
-/// In the order of `Kind`.
-constexpr std::array<KindTexts, zel::kiv::catalogue::kindWords.size()> words{{
-    {"std::string", "copied in; the getter lends a reference", "a String"},
-    {"int", "by value", "an Integer"},
-    {"double", "by value", "a Float"},
-    {"bool", "by value", "a Boolean"},
-    {"std::vector<std::string>", "copied in and out", "an Array of String"},
-    {"std::vector<int>", "copied in and out", "an Array of Integer"},
-    {"T*", oneOwned, oneWritten},
-    {"std::vector<T*>", manyOwned, "an Array of such values as element"},
-    {"ExternalResourceObject*", oneOwned, oneWritten},
-    {"std::vector<ExternalResourceObject*>", manyOwned, "an Array of such values as external"},
-    {"IObjectBase*, and a flag for each target", oneOwned, oneWritten},
-}};
-
 } // namespace
 
-KindTexts const& textsOf(zel::kiv::catalogue::Kind kind)
+KindTexts textsOf(Kind kind)
 {
-    return words.at(static_cast<std::size_t>(kind));
+    switch (kind) {
+    case Kind::String:
+        return {"copied in; the getter lends a reference", "a String"};
+    case Kind::Int:
+        return {"by value", "an Integer"};
+    case Kind::Double:
+        return {"by value", "a Float"};
+    case Kind::Bool:
+        return {"by value", "a Boolean"};
+    case Kind::StringList:
+        return {"copied in and out", "an Array of String"};
+    case Kind::IntList:
+        return {"copied in and out", "an Array of Integer"};
+    case Kind::Element:
+    case Kind::External:
+        return {oneOwned, oneWritten};
+    case Kind::ElementList:
+        return {manyOwned, "an Array of such values as element"};
+    case Kind::ExternalList:
+        return {manyOwned, "an Array of such values as external"};
+    case Kind::Polymorphic:
+        return {"owned; the getter lends the pointer, and a flag for each target tells its class",
+                oneWritten};
+    }
+    throw std::logic_error("a kind without words");
 }
 
-std::string anchorOf(zel::kiv::catalogue::Kind kind)
+std::string anchorOf(Kind kind)
 {
     std::string word(wordOf(kind));
     std::ranges::replace(word, ' ', '-');

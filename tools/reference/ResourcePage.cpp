@@ -36,15 +36,15 @@ Data targetData(Field const& field, Resource const* target)
 {
     Data data;
     data.set("name", kiv::nameOf(target));
-    data.set("isExternal", target == nullptr);
-    data.set("isLast", target == nullptr && field.kind == Kind::Polymorphic);
-    data.set("class", elementClassOf(target));
+    data.set("isExternal", target->isExternal());
+    data.set("isLast", target->isExternal() && field.kind == Kind::Polymorphic);
+    data.set("class", text(target->elementClass));
     return data;
 }
 
 bool isCommon(Field const& field)
 {
-    return field.key == "id" || field.key == "name" || field.key == "uri";
+    return kiv::catalogue::external().find(field.key) != nullptr;
 }
 
 /// External kinds have one target that the kind names already.
@@ -109,7 +109,7 @@ std::string resourcePart(Resource const& resource, Templates const& templates)
     data.set("resourceKey", text(resource.resourceKey));
     data.set("elementKey", text(resource.elementKey));
     data.set("about", text(resource.about));
-    data.set("header", headerOf(resource));
+    data.set("header", text(resource.header));
     data.set("fields", fields);
     data.set("isHeld", !holders.empty());
     data.set("holders", holders);

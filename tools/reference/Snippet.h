@@ -9,10 +9,4 @@ namespace reference {
 /// C++ that fills an element of the resource and reads it again. It compiles as it stands.
 std::string snippetOf(zel::kiv::catalogue::Resource const& resource);
 
-/// `radio::Presets::PresetObject`; null stands for `ExternalResourceObject`.
-std::string elementClassOf(zel::kiv::catalogue::Resource const* resource);
-
-/// `services/radio/Presets.h`
-std::string headerOf(zel::kiv::catalogue::Resource const& resource);
-
 } // namespace reference

@@ -10,8 +10,8 @@ namespace zel::kiv::sample {
 
 namespace {
 
+using catalogue::Content;
 using catalogue::Field;
-using catalogue::Kind;
 using catalogue::Resource;
 using dataformats::data::Array;
 using dataformats::data::Boolean;
@@ -27,8 +27,7 @@ ValuePointer text(std::string const& words)
     return std::make_unique<String>(words);
 }
 
-/// What a nested place holds: an element of a resource, or, without one, a reference to something
-/// outside the interface.
+/// What a nested place holds.
 struct Nested {
     Resource const* resource;
     std::string_view key; ///< of the field that holds it
@@ -37,7 +36,7 @@ struct Nested {
 
 std::string uriOf(Nested const& nested)
 {
-    std::string const place = nested.resource == nullptr
+    std::string const place = nested.resource->isExternal()
                                   ? "other/" + std::string(nested.key)
                                   : std::string(nested.resource->service) + '/' +
                                         std::string(nested.resource->resourceKey);
@@ -48,7 +47,7 @@ std::string uriOf(Nested const& nested)
 std::string nameOf(Nested const& nested)
 {
     std::string_view name = nested.key;
-    if (nested.resource != nullptr) {
+    if (!nested.resource->isExternal()) {
         name = nested.resource->element;
         name.remove_suffix(name.ends_with("Object") ? std::string_view("Object").size() : 0);
     }
@@ -69,63 +68,51 @@ ValuePointer nestedValue(Nested const& nested, int depth)
     return text(uriOf(nested));
 }
 
+/// The first target that is of the interface, if there is one.
 Resource const* targetOf(Field const& field)
 {
-    auto const found =
-        std::ranges::find_if(field.targets, [](auto const* each) { return each != nullptr; });
-    return found == field.targets.end() ? nullptr : *found;
+    auto const found = std::ranges::find_if_not(field.targets, &Resource::isExternal);
+    return found == field.targets.end() ? field.targets.front() : *found;
 }
 
-ValuePointer listOf(ValuePointer first, ValuePointer second)
+/// The value of a field, or the entry at `place` in its list. `number` is the id of the element
+/// that has the field; what it holds gets the next ones, so that no element seems to hold itself.
+ValuePointer entryOf(Field const& field, int place, int number, int depth)
 {
-    auto list = std::make_unique<Array>();
-    list->pushNew(first.release());
-    list->pushNew(second.release());
-    return list;
+    switch (traitsOf(field.kind).content) {
+    case Content::String:
+        return text(isList(field.kind) ? textsFor(field.key).at(static_cast<std::size_t>(place))
+                                       : textFor(field.key));
+    case Content::Integer:
+        return std::make_unique<Integer>(intFor(field.key) + place);
+    case Content::Float:
+        return std::make_unique<Float>(doubleFor(field.key));
+    case Content::Boolean:
+        return std::make_unique<Boolean>(true);
+    case Content::Object:
+        break;
+    }
+    return nestedValue({targetOf(field), field.key, number + 1 + place}, depth);
 }
 
-/// `number` is the id of the element that has the field; what it holds gets the next ones, so that
-/// no element seems to hold itself.
 ValuePointer valueOf(Field const& field, int number, int depth)
 {
-    Nested const nested{targetOf(field), field.key, number + 1};
-    Nested const next{targetOf(field), field.key, number + 2};
-    switch (field.kind) {
-    case Kind::String:
-        return text(textFor(field.key));
-    case Kind::Int:
-        return std::make_unique<Integer>(intFor(field.key));
-    case Kind::Double:
-        return std::make_unique<Float>(doubleFor(field.key));
-    case Kind::Bool:
-        return std::make_unique<Boolean>(true);
-    case Kind::StringList: {
-        auto const words = textsFor(field.key);
-        return listOf(text(words.front()), text(words.back()));
+    if (!isList(field.kind)) {
+        return entryOf(field, 0, number, depth);
     }
-    case Kind::IntList: {
-        int const first = intFor(field.key);
-        return listOf(std::make_unique<Integer>(first), std::make_unique<Integer>(first + 1));
+    auto list = std::make_unique<Array>();
+    for (int const place : {0, 1}) {
+        list->pushNew(entryOf(field, place, number, depth).release());
     }
-    case Kind::Element:
-    case Kind::External:
-    case Kind::Polymorphic:
-        return nestedValue(nested, depth);
-    case Kind::ElementList:
-    case Kind::ExternalList:
-        return listOf(nestedValue(nested, depth), nestedValue(next, depth));
-    }
-    return nullptr;
+    return list;
 }
 
 ValuePointer elementOf(Nested const& nested, int depth)
 {
     auto object = std::make_unique<Object>();
-    if (nested.resource != nullptr) {
-        for (auto const& field : nested.resource->fields) {
-            std::string const key(field.key);
-            object->setNew(key.c_str(), valueOf(field, nested.number, depth).release());
-        }
+    for (auto const& field : nested.resource->fields) {
+        std::string const key(field.key);
+        object->setNew(key.c_str(), valueOf(field, nested.number, depth).release());
     }
     object->setNew("id", text(std::to_string(nested.number)).release());
     object->setNew("name", text(nameOf(nested)).release());

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -47,7 +46,7 @@ std::unique_ptr<data::Value> wrongFor(Kind kind)
 /// Whether an element of some class is made for any uri in the field.
 bool takesAnyUri(catalogue::Field const& field)
 {
-    return field.kind != Kind::Polymorphic || std::ranges::count(field.targets, nullptr) > 0;
+    return field.kind != Kind::Polymorphic || field.hasLastResort();
 }
 
 std::size_t fieldsSet(zel::kiv::common::IObjectBase const& element)

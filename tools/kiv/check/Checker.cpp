@@ -31,9 +31,6 @@ std::string wanted(data::Value const* value, std::string_view want)
 
 std::vector<std::string_view> keysOf(catalogue::Resource const* resource)
 {
-    if (resource == nullptr) {
-        return {"id", "name", "uri"};
-    }
     std::vector<std::string_view> keys;
     for (auto const& field : resource->fields) {
         keys.push_back(field.key);
@@ -64,7 +61,7 @@ std::string noNameReason(data::Value const& value)
         return "a uri of fewer than three parts";
     }
     if (value.getType() != ValueType::Object) {
-        return wanted(&value, wantedBy(Kind::Polymorphic));
+        return wanted(&value, traitsOf(Kind::Polymorphic).wanted);
     }
     bool const hasUri = valueAt(static_cast<data::Object const&>(value), "uri") != nullptr;
     return hasUri ? "an object whose uri has fewer than three parts" : "an object without a uri";
@@ -111,7 +108,7 @@ void Checker::onElement(Path const& path, catalogue::Resource const* resource,
 {
     checkRepeats(path, m_places.below(object));
     checkKeys(path, resource, object);
-    if (resource != nullptr) {
+    if (!resource->isExternal()) {
         checkOwnUri(path, *resource, object);
     }
 }
@@ -206,7 +203,7 @@ void Checker::checkPlain(Path const& path, Kind kind, data::Value const& value,
         return;
     }
     m_report({fit == Fit::Rounded ? Fate::Suspect : Fate::Changed, position, path.text(),
-              wanted(&value, wantedBy(kind)), "it reads as " + readAs(kind, value), ""});
+              wanted(&value, traitsOf(kind).wanted), "it reads as " + readAs(kind, value), ""});
 }
 
 void Checker::checkNested(Path const& path, catalogue::Resource const* target,
@@ -219,7 +216,7 @@ void Checker::checkNested(Path const& path, catalogue::Resource const* target,
         checkUri(path, target, textOf(value), position);
         return;
     }
-    m_report({Fate::Invented, position, path.text(), wanted(&value, wantedBy(Kind::Element)),
+    m_report({Fate::Invented, position, path.text(), wanted(&value, traitsOf(Kind::Element).wanted),
               "an empty element stands in its place", ""});
 }
 
@@ -236,7 +233,7 @@ void Checker::checkUri(Path const& path, catalogue::Resource const* target, std:
     } else if (!uri.starts_with('/')) {
         m_report({Fate::Suspect, position, path.text(), "a uri without a leading slash",
                   "it is kept as it stands", slashHint(uri)});
-    } else if (target != nullptr && name != nameOf(target)) {
+    } else if (!target->isExternal() && name != nameOf(target)) {
         m_report({Fate::Suspect, position, path.text(),
                   "a uri of " + name + " where one of " + nameOf(target) + " is wanted",
                   "it is taken all the same", ""});
@@ -250,7 +247,7 @@ void Checker::onEntry(Path const& path, catalogue::Field const& field, data::Arr
     if (catalogue::isNested(field.kind)) {
         checkNested(path, field.targets.front(), value, position);
     } else {
-        checkPlain(path, entryKind(field.kind), value, position);
+        checkPlain(path, traitsOf(field.kind).entry, value, position);
     }
 }
 
@@ -271,7 +268,7 @@ void Checker::onDispatch(Path const& path, Dispatch const& dispatch)
         }
         return;
     }
-    bool const taken = hasLastResort(dispatch.field);
+    bool const taken = dispatch.field.hasLastResort();
     m_report({taken ? Fate::Suspect : Fate::Lost, position, path.text(),
               "a uri of " + dispatch.name + ", which the field does not name",
               taken ? "it is held as a reference to the outside, with id, name and uri alone"

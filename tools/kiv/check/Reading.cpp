@@ -10,6 +10,7 @@ namespace kiv {
 
 namespace {
 
+using catalogue::Content;
 using catalogue::Kind;
 using data::ValueType;
 
@@ -50,75 +51,37 @@ Fit exactIf(bool fits)
 Fit fitOf(Kind kind, data::Value const& value)
 {
     auto const type = value.getType();
-    switch (kind) {
-    case Kind::String:
+    switch (traitsOf(kind).content) {
+    case Content::String:
         return exactIf(type == ValueType::String);
-    case Kind::Bool:
+    case Content::Boolean:
         return exactIf(type == ValueType::Boolean);
-    case Kind::Double:
+    case Content::Float:
         return exactIf(type == ValueType::Integer || type == ValueType::Float);
-    case Kind::Int:
+    case Content::Integer:
         return fitOfInt(value);
-    default:
-        return Fit::Exact;
+    case Content::Object:
+        break;
     }
+    return Fit::Exact;
 }
 
 std::string readAs(Kind kind, data::Value const& value)
 {
     data::Ref const ref(&value);
-    switch (kind) {
-    case Kind::String:
+    switch (traitsOf(kind).content) {
+    case Content::String:
         return quoted(ref.asString());
-    case Kind::Bool:
+    case Content::Boolean:
         return ref.asBoolean() ? "true" : "false";
-    case Kind::Double:
+    case Content::Float:
         return numberText(ref.asFloat());
-    case Kind::Int:
+    case Content::Integer:
         return std::to_string(ref.asInteger());
-    default:
-        return {};
-    }
-}
-
-std::string_view wantedBy(Kind kind)
-{
-    switch (kind) {
-    case Kind::String:
-        return "text";
-    case Kind::Bool:
-        return "true or false";
-    case Kind::Double:
-        return "a number";
-    case Kind::Int:
-        return "an integer";
-    case Kind::StringList:
-    case Kind::IntList:
-    case Kind::ElementList:
-    case Kind::ExternalList:
-        return "an array";
-    case Kind::Element:
-    case Kind::External:
-    case Kind::Polymorphic:
-        return "an object or a uri";
+    case Content::Object:
+        break;
     }
     return {};
-}
-
-Kind entryKind(Kind kind)
-{
-    switch (kind) {
-    case Kind::StringList:
-        return Kind::String;
-    case Kind::IntList:
-        return Kind::Int;
-    case Kind::ElementList:
-        return Kind::Element;
-    case Kind::ExternalList:
-        return Kind::External;
-    default:
-        return kind;
-    }
 }
 
 std::string serviceAndResourceOf(data::Value const& value)

@@ -19,12 +19,6 @@ Fit fitOf(catalogue::Kind kind, data::Value const& value);
 /// What arrives, as JSON would show it: `0`, `"7"`, `true`.
 std::string readAs(catalogue::Kind kind, data::Value const& value);
 
-/// What a field of that kind wants, in words: `text`, `an integer`.
-std::string_view wantedBy(catalogue::Kind kind);
-
-/// The kind of a list's entries; any other kind itself.
-catalogue::Kind entryKind(catalogue::Kind kind);
-
 /// A uri's service and resource as the library reads them, for instance `radio/stations`; empty if
 /// the value has no uri of three parts. An object's `uri` must be text.
 std::string serviceAndResourceOf(data::Value const& value);

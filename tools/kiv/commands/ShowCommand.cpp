@@ -8,20 +8,10 @@ namespace kiv {
 
 namespace {
 
-std::string classOf(catalogue::Resource const& resource)
-{
-    return std::string(resource.service) + "::" + std::string(resource.name);
-}
-
-std::string headerOf(catalogue::Resource const& resource)
-{
-    return "services/" + std::string(resource.service) + "/" + std::string(resource.name) + ".h";
-}
-
 std::string targetsText(catalogue::Field const& field)
 {
     std::string text = listed(targetNames(field), "or");
-    return hasLastResort(field) ? text + " (external tried last)" : text;
+    return field.hasLastResort() ? text + " (external tried last)" : text;
 }
 
 std::unique_ptr<data::Value> fieldValue(catalogue::Field const& field)
@@ -66,11 +56,11 @@ std::unique_ptr<data::Value> resourceValue(catalogue::Resource const& resource)
     }
     auto value = std::make_unique<data::Object>();
     value->setNew("about", json::text(resource.about).release());
-    value->setNew("class", json::text(classOf(resource)).release());
+    value->setNew("class", json::text(resource.resourceClass).release());
     value->setNew("element", json::text(resource.element).release());
     value->setNew("elementKey", json::text(resource.elementKey).release());
     value->setNew("fields", fields.release());
-    value->setNew("header", json::text(headerOf(resource)).release());
+    value->setNew("header", json::text(resource.header).release());
     value->setNew("heldBy", holdersValue(resource).release());
     value->setNew("resource", json::text(nameOf(&resource)).release());
     value->setNew("resourceKey", json::text(resource.resourceKey).release());
@@ -82,9 +72,9 @@ void printHeading(catalogue::Resource const& resource, Console& console)
     console.output.write(console.style.strong(nameOf(&resource)) + "\n");
     console.output.write(std::string(resource.about) + "\n\n");
     Table table;
-    table.add({"class", classOf(resource)});
-    table.add({"element", classOf(resource) + "::" + std::string(resource.element)});
-    table.add({"header", headerOf(resource)});
+    table.add({"class", std::string(resource.resourceClass)});
+    table.add({"element", std::string(resource.elementClass)});
+    table.add({"header", std::string(resource.header)});
     table.print(console);
 }
 

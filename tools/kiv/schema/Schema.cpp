@@ -14,6 +14,7 @@ namespace kiv::schema {
 
 namespace {
 
+using catalogue::Content;
 using catalogue::Kind;
 using catalogue::Resource;
 using json::ValuePointer;
@@ -38,7 +39,6 @@ private:
 };
 
 constexpr std::string_view dialect = "https://json-schema.org/draft/2020-12/schema";
-constexpr std::string_view external = "external";
 /// What the library takes for service and resource lies between the first character and the third
 /// slash.
 constexpr std::string_view anyUri = "^/[^/]*/[^/]*/";
@@ -46,8 +46,8 @@ constexpr std::string_view anyUri = "^/[^/]*/[^/]*/";
 /// Resources are named with a dot here: a slash would have to be escaped in references.
 std::string definitionOf(Resource const* resource)
 {
-    return resource == nullptr
-               ? std::string(external)
+    return resource->isExternal()
+               ? nameOf(resource)
                : std::string(resource->service) + "." + std::string(resource->resourceKey);
 }
 
@@ -69,31 +69,30 @@ ValuePointer orNull(std::string_view type)
     return json::array(json::text(type), json::text("null"));
 }
 
-Schema plain(Kind kind)
+/// One value or one entry of a list, `target` being what an object is read as.
+Schema entrySchema(Content content, Resource const* target)
 {
     Schema schema;
-    switch (kind) {
-    case Kind::Int:
+    switch (content) {
+    case Content::String:
+        schema.with("type", orNull("string"));
+        break;
+    case Content::Integer:
         schema.with("type", orNull("integer"))
             .with("minimum", json::number(std::numeric_limits<int>::min()))
             .with("maximum", json::number(std::numeric_limits<int>::max()));
-        return schema;
-    case Kind::Double:
+        break;
+    case Content::Float:
         schema.with("type", orNull("number"));
-        return schema;
-    case Kind::Bool:
+        break;
+    case Content::Boolean:
         schema.with("type", orNull("boolean"));
-        return schema;
-    default:
-        schema.with("type", orNull("string"));
-        return schema;
+        break;
+    case Content::Object:
+        schema.with("anyOf",
+                    json::array(typed("string"), typed("null"), referenceTo(target).take()));
+        break;
     }
-}
-
-Schema nested(Resource const* target)
-{
-    Schema schema;
-    schema.with("anyOf", json::array(typed("string"), typed("null"), referenceTo(target).take()));
     return schema;
 }
 
@@ -130,7 +129,7 @@ Schema polymorphic(catalogue::Field const& field)
     choices->pushNew(typed("null").release());
     for (auto const* target : field.targets) {
         std::string const pattern =
-            target == nullptr ? std::string(anyUri) : "^/" + nameOf(target) + "/";
+            target->isExternal() ? std::string(anyUri) : "^/" + nameOf(target) + "/";
         choices->pushNew(uriText(pattern).release());
         choices->pushNew(targetObject(target, pattern).release());
     }
@@ -141,22 +140,12 @@ Schema polymorphic(catalogue::Field const& field)
 
 Schema schemaFor(catalogue::Field const& field)
 {
-    switch (field.kind) {
-    case Kind::StringList:
-        return listOf(plain(Kind::String));
-    case Kind::IntList:
-        return listOf(plain(Kind::Int));
-    case Kind::Element:
-    case Kind::External:
-        return nested(field.targets.front());
-    case Kind::ElementList:
-    case Kind::ExternalList:
-        return listOf(nested(field.targets.front()));
-    case Kind::Polymorphic:
+    if (field.kind == Kind::Polymorphic) {
         return polymorphic(field);
-    default:
-        return plain(field.kind);
     }
+    auto const* const target = field.targets.empty() ? nullptr : field.targets.front();
+    Schema one = entrySchema(traitsOf(field.kind).content, target);
+    return isList(field.kind) ? listOf(std::move(one)) : std::move(one);
 }
 
 std::string descriptionOf(catalogue::Field const& field)
@@ -188,23 +177,11 @@ ValuePointer elementOf(Resource const& resource)
         .take();
 }
 
-ValuePointer externalElement()
-{
-    auto properties = std::make_unique<data::Object>();
-    for (char const* key : {"id", "name", "uri"}) {
-        properties->setNew(key, plain(Kind::String).take().release());
-    }
-    return elementWith(std::move(properties))
-        .with("title", external)
-        .with("description", "A reference to something outside the interface.")
-        .take();
-}
-
 using Reached = std::set<Resource const*>;
 
 void reach(Resource const* resource, Reached& reached)
 {
-    if (!reached.insert(resource).second || resource == nullptr) {
+    if (!reached.insert(resource).second) {
         return;
     }
     for (auto const& field : resource->fields) {
@@ -218,8 +195,7 @@ std::unique_ptr<data::Object> definitions(Reached const& reached)
 {
     auto all = std::make_unique<data::Object>();
     for (auto const* resource : reached) {
-        ValuePointer element = resource == nullptr ? externalElement() : elementOf(*resource);
-        all->setNew(definitionOf(resource).c_str(), element.release());
+        all->setNew(definitionOf(resource).c_str(), elementOf(*resource).release());
     }
     return all;
 }

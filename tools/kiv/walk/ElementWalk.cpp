@@ -20,24 +20,9 @@ catalogue::Resource const* dispatch(catalogue::Field const& field,
 {
     auto const found =
         std::find_if(field.targets.begin(), field.targets.end(), [&](auto const* target) {
-            return target != nullptr && nameOf(target) == serviceAndResource;
+            return !target->isExternal() && nameOf(target) == serviceAndResource;
         });
     return found == field.targets.end() ? nullptr : *found;
-}
-
-/// The fields that the library asks for: those of the resource, or of an external reference those
-/// that every element has.
-std::vector<catalogue::Field const*> fieldsOf(catalogue::Resource const* resource)
-{
-    auto const& any = catalogue::resources().front();
-    if (resource == nullptr) {
-        return {any.find("id"), any.find("name"), any.find("uri")};
-    }
-    std::vector<catalogue::Field const*> fields;
-    for (auto const& field : resource->fields) {
-        fields.push_back(&field);
-    }
-    return fields;
 }
 
 } // namespace
@@ -56,14 +41,14 @@ void ElementWalk::walkEntry(catalogue::Resource const& resource, std::size_t ind
 void ElementWalk::walkElement(catalogue::Resource const* resource, data::Object const& object)
 {
     m_observer.onElement(m_path, resource, object);
-    for (auto const* const field : fieldsOf(resource)) {
-        m_key.assign(field->key);
+    for (auto const& field : resource->fields) {
+        m_key.assign(field.key);
         auto const found = object.get().find(m_key);
         if (found == object.get().end() || found->second == nullptr) {
             continue;
         }
-        m_path.enter(field->key);
-        walkField(*field, object, *static_cast<data::Value*>(found->second));
+        m_path.enter(field.key);
+        walkField(field, object, *static_cast<data::Value*>(found->second));
         m_path.leave();
     }
 }
@@ -119,9 +104,10 @@ void ElementWalk::walkPolymorphic(catalogue::Field const& field, data::Object co
     std::string const name = serviceAndResourceOf(value);
     catalogue::Resource const* const target = dispatch(field, name);
     m_observer.onDispatch(m_path, {field, holder, value, name, target});
-    bool const taken = target != nullptr || (!name.empty() && hasLastResort(field));
-    if (taken) {
+    if (target != nullptr) {
         walkNested(target, value);
+    } else if (!name.empty() && field.hasLastResort()) {
+        walkNested(&catalogue::external(), value);
     }
 }
 

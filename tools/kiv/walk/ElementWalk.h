@@ -23,8 +23,7 @@ public:
     WalkObserver& operator=(WalkObserver const&) = delete;
     virtual ~WalkObserver() = default;
 
-    /// An object that is read as an element of `resource`, or as an external reference if that is
-    /// null. Its fields follow.
+    /// An object that is read as an element of `resource`. Its fields follow.
     virtual void onElement(Path const& /*path*/, catalogue::Resource const* /*resource*/,
                            data::Object const& /*object*/)
     {
