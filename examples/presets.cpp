@@ -1,12 +1,14 @@
 #include "services/radio/Presets.h"
-#include "examples/json.h"
 #include "services/radio/Stations.h"
+#include "testing/fromJson.h"
+#include "testing/toJson.h"
 
 #include <cstdlib>
 #include <exception>
 #include <iostream>
 
 using namespace zel::kiv::common;
+namespace testing = zel::kiv::testing;
 
 // The station is of one of two classes; the presence accessors tell of which.
 static std::string describe(radio::Presets::PresetObject const& preset)
@@ -26,14 +28,13 @@ static std::string describe(radio::Presets::PresetObject const& preset)
 static void show(std::string const& path)
 {
     radio::Presets presets;
-    presets.deserialize(examples::readJson(path).get());
+    presets.deserialize(testing::fromJsonFile(path).get());
 
     for (auto const& preset : presets.getObjects()) {
         std::cout << "place " << preset->getPosition() << ": " << describe(*preset) << '\n';
         for (auto const depth :
              {SerializationType::Full, SerializationType::Shallow, SerializationType::Reference}) {
-            std::cout << "  ";
-            examples::printJson(*preset->serialize(depth));
+            std::cout << "  " << testing::toJson(*preset->serialize(depth)) << '\n';
         }
     }
 }

@@ -4,6 +4,7 @@
 #include "json/Position.h"
 #include "json/PositionedStream.h"
 #include "json/ValueNames.h"
+#include "testing/detail/maxDepth.h"
 
 #include <cstddef>
 #include <functional>
@@ -19,10 +20,8 @@
 /// through.
 namespace kiv::json {
 
-/// How deep arrays and objects may be nested. The library walks into nested elements by recursion,
-/// and so do the tool and whoever reads its output; this keeps all of them far from the end of a
-/// stack of 8 MiB, in debug and sanitizer builds too.
-inline constexpr std::size_t maxDepth = 1000;
+/// How deep arrays and objects may be nested.
+inline constexpr std::size_t maxDepth = zel::kiv::testing::detail::maxDepth;
 
 /// An entry of the array at the top of a document.
 struct Entry {

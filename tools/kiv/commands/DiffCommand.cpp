@@ -1,10 +1,10 @@
 #include "frame/IObjectBase.h"
 #include "json/JsonWriter.h"
 #include "json/TypeNames.h"
+#include "testing/difference.h"
 #include "text/Failure.h"
 #include "tools/kiv/Command.h"
 #include "tools/kiv/Progress.h"
-#include "tools/kiv/diff/Difference.h"
 #include "tools/kiv/walk/Guard.h"
 #include "tools/lookup/Lookup.h"
 
@@ -38,11 +38,12 @@ public:
         auto const right = readInFull(resource, m_right);
         bool same = true;
         Path path;
-        compare(path, left.get(), right.get(),
-                [&](Path const& place, data::Value const* a, data::Value const* b) {
-                    same = false;
-                    print(console, place, a, b);
-                });
+        zel::kiv::testing::compare(
+            path, left.get(), right.get(),
+            [&](Path const& place, data::Value const* a, data::Value const* b) {
+                same = false;
+                print(console, place, a, b);
+            });
         return same ? Exit::Clean : Exit::Findings;
     }
 
