@@ -4,7 +4,7 @@
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help demo build test lint format sanitize arm64 figures bench fuzz package reference ci clean
+.PHONY: help demo build test lint format sanitize arm64 figures bench mutants fuzz package reference ci clean
 
 help: ## show this list
 	@awk -F ':.*## ' '/^[a-z0-9]+:.*## / { printf "  make %-10s %s\n", $$1, $$2 }' Makefile
@@ -52,6 +52,10 @@ figures: ## hold the figures that do not depend on the machine
 bench: ## measure beside the peers, as ratios
 	@scripts/install-packages build bench
 	@scripts/bench -j $(JOBS)
+
+mutants: ## plant faults one by one and name the test that finds each (MUTANTS=pattern)
+	@scripts/install-packages build reference
+	@JOBS=$(JOBS) scripts/mutants $(MUTANTS)
 
 fuzz: ## a bounded fuzz run (SECONDS_EACH=60)
 	@scripts/install-packages build fuzz

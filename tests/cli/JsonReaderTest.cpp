@@ -1,5 +1,6 @@
 #include "json/JsonReader.h"
 #include "json/JsonWriter.h"
+#include "json/ValueBuilder.h"
 
 #include "Printed.h"
 #include "text/Failure.h"
@@ -143,6 +144,21 @@ TEST(JsonReader, refusesWhatIsNoJsonAndSaysWhere)
     for (auto const& each : cases) {
         EXPECT_EQ(faultOf(each.text), each.fault);
     }
+}
+
+/// The reader gives up at some of these by itself, which is no reason to rely on it.
+TEST(ValueBuilder, RefusesBothHalvesOfASurrogatePair)
+{
+    PositionedStream const stream(textSource(""));
+    std::string const file = "f";
+    WideIntegerHandler const none;
+    Document document;
+    ValueBuilder builder(file, stream, document, nullptr, none);
+    for (char const* const half :
+         {"\xED\xA0\x80", "\xED\xAF\xBF", "\xED\xB0\x80", "\xED\xBF\xBF"}) {
+        EXPECT_THROW(builder.String(half, 3, true), Failure);
+    }
+    EXPECT_TRUE(builder.String("\xED\x9F\xBF\xEE\x80\x80", 6, true)) << "just beside them";
 }
 
 TEST(JsonReader, depthHasALimit)

@@ -1,8 +1,8 @@
 #include "tests/model/Agreement.h"
 
 #include "tests/model/Model.h"
+#include "tests/model/Text.h"
 
-#include "frame/IObjectBase.h"
 #include "frame/IResourceBase.h"
 #include "values/values.h"
 
@@ -16,10 +16,10 @@ namespace model {
 
 namespace {
 
-namespace common = zel::kiv::common;
 namespace data = zel::dataformats::data;
 
 using zel::kiv::catalogue::Resource;
+using Type = zel::kiv::common::SerializationType;
 
 /// While it lives, what is allocated may be lost.
 class LeaksAllowed {
@@ -40,89 +40,75 @@ public:
     LeaksAllowed& operator=(LeaksAllowed const&) = delete;
 };
 
-std::string compared(char const* what, Tree const& expected,
-                     std::unique_ptr<data::Value> const& got)
+std::string compared(char const* what, std::string const& expected, std::string const& got)
 {
-    std::string const found = difference(expected, treeOf(got.get()));
-    return found.empty() ? found : what + (": " + found);
+    return expected == got ? ""
+                           : std::string(what) + ": expected " + expected + ", got " + got + "; ";
 }
 
 /// Gives the value to both.
 template <typename Expected, typename Got>
 std::string readBoth(Expected& expected, Got& got, data::Value const* value, int times)
 {
+    std::string found;
     for (int time = 0; time < times; ++time) {
         expected.read(value);
-        if (!got.deserialize(value)) {
-            return "deserialize says false";
-        }
+        found += got.deserialize(value) ? "" : "deserialize says false; ";
     }
-    return disagreement(expected, got);
+    return found;
 }
 
-std::string elementDisagreement(Resource const& resource, data::Value const* value, int times)
+std::string ofElement(Resource const& resource, data::Value const* value, int times)
 {
     Element expected(&resource);
     auto const got = resource.makeElement();
-    if (times < 2) {
-        return readBoth(expected, *got, value, times);
+    return readBoth(expected, *got, value, times) +
+           compared("full", expected.full(), textOf(*got, Type::Full)) +
+           compared("shallow", expected.shallow(), textOf(*got, Type::Shallow)) +
+           compared("reference", expected.reference(), textOf(*got, Type::Reference)) +
+           compared("of no known type", expected.full(), textOf(*got, static_cast<Type>(3)));
+}
+
+std::string ofResource(Resource const& resource, data::Value const* value, int times)
+{
+    Collection expected(resource);
+    auto const got = resource.makeResource();
+    std::string const found = readBoth(expected, *got, value, times);
+    auto const form = got->serialize();
+    auto const again = resource.makeResource();
+    again->deserialize(form.get());
+    return found + compared("resource", expected.full(), textOf(form.get())) +
+           compared("the same again", textOf(form.get()), textOf(again->serialize().get())) +
+           (got->getNumberOfElements() == expected.elements().size() ? "" : "number of slots");
+}
+
+std::string ofElements(Resource const& resource, data::Value const* value, int times)
+{
+    if (value == nullptr || value->getType() != data::ValueType::Array) {
+        return ofElement(resource, value, times);
     }
-    LeaksAllowed const leaksAllowed;
-    return readBoth(expected, *got, value, times);
+    std::string found;
+    // The getter of an array is not const, though it changes nothing.
+    for (data::Value const* const entry :
+         const_cast<data::Array&>(static_cast<data::Array const&>(*value)).get()) {
+        found += ofElement(resource, entry, times);
+    }
+    return found;
 }
 
 } // namespace
 
-std::string disagreement(Collection const& expected, common::IResourceBase const& got)
-{
-    if (got.getNumberOfElements() != expected.elements().size()) {
-        return "expected " + std::to_string(expected.elements().size()) + " elements, got " +
-               std::to_string(got.getNumberOfElements());
-    }
-    return compared("resource", expected.full(), got.serialize());
-}
-
-std::string disagreement(Element const& expected, common::IObjectBase const& got)
-{
-    using Type = common::SerializationType;
-    struct {
-        char const* what;
-        Tree expected;
-        Type type;
-    } const forms[] = {{"full", expected.full(), Type::Full},
-                       {"shallow", expected.shallow(), Type::Shallow},
-                       {"reference", expected.reference(), Type::Reference},
-                       {"of no known type", expected.full(), static_cast<Type>(3)}};
-    for (auto const& form : forms) {
-        std::string found = compared(form.what, form.expected, got.serialize(form.type));
-        if (!found.empty()) {
-            return found;
-        }
-    }
-    return {};
-}
-
 std::string disagreement(Resource const& resource, data::Value const* value, int times)
 {
-    Collection expected(resource);
-    std::string found = readBoth(expected, *resource.makeResource(), value, times);
-    if (!found.empty()) {
-        return found;
+    std::string const before = textOf(value);
+    std::string found = ofResource(resource, value, times);
+    if (times < 2) {
+        found += ofElements(resource, value, times);
+    } else {
+        LeaksAllowed const leaksAllowed;
+        found += ofElements(resource, value, times);
     }
-    if (value == nullptr || value->getType() != data::ValueType::Array) {
-        return elementDisagreement(resource, value, times);
-    }
-    std::size_t index = 0;
-    // The getter of an array is not const, though it changes nothing.
-    for (data::Value const* const entry :
-         const_cast<data::Array&>(static_cast<data::Array const&>(*value)).get()) {
-        found = elementDisagreement(resource, entry, times);
-        if (!found.empty()) {
-            return "element " + std::to_string(index) + ", " + found;
-        }
-        ++index;
-    }
-    return {};
+    return found + compared("the input stays", before, textOf(value));
 }
 
 } // namespace model

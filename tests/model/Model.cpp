@@ -1,5 +1,7 @@
 #include "tests/model/Model.h"
 
+#include "tests/model/Text.h"
+
 #include "values/values.h"
 
 #include <algorithm>
@@ -23,39 +25,39 @@ data::Value const* valueUnder(data::Object const& object, std::string_view key)
     return entry == object.get().end() ? nullptr : static_cast<data::Value const*>(entry->second);
 }
 
-std::string const& textOf(data::Value const& value)
+std::string const& stringIn(data::Value const& value)
 {
     return static_cast<data::String const&>(value).get();
 }
 
-Tree plainTree(Kind kind, data::Value const& value)
+std::string plainText(Kind kind, data::Value const& value)
 {
     data::Ref const ref(&value);
     switch (catalogue::traitsOf(kind).content) {
     case Content::Integer:
-        return {ref.asInteger()};
+        return textOf(ref.asInteger());
     case Content::Float:
-        return {ref.asFloat()};
+        return textOf(ref.asFloat());
     case Content::Boolean:
-        return {ref.asBoolean()};
+        return textOf(ref.asBoolean());
     case Content::String:
     case Content::Object:
         break;
     }
-    return {ref.asString()};
+    return textOf(ref.asString());
 }
 
 /// The uri that a polymorphic field goes by.
 std::string uriOf(data::Value const& value)
 {
     if (value.getType() == ValueType::String) {
-        return textOf(value);
+        return stringIn(value);
     }
     if (value.getType() != ValueType::Object) {
         return {};
     }
     auto const* const uri = valueUnder(static_cast<data::Object const&>(value), "uri");
-    return uri == nullptr ? std::string() : textOf(*uri);
+    return uri == nullptr ? std::string() : stringIn(*uri);
 }
 
 /// What stands in the uri before the second slash, the first character not counted in any respect;
@@ -123,7 +125,7 @@ void Element::readField(Field const& field, data::Value const& value)
 void Element::readEntry(Field const& field, data::Value const& value)
 {
     if (!catalogue::isNested(field.kind)) {
-        hold(field).plain.push_back(plainTree(field.kind, value));
+        hold(field).plain.push_back(plainText(field.kind, value));
         return;
     }
     Choice choice{true, field.targets.front()};
@@ -142,11 +144,11 @@ void Element::readNested(data::Value const& value)
         read(&value);
         return;
     }
-    setText("uri", textOf(value));
+    setText("uri", stringIn(value));
     std::string service;
     std::string resource;
     std::string id;
-    zel::kiv::common::getUriSplitted(textOf(value), service, resource, id);
+    zel::kiv::common::getUriSplitted(stringIn(value), service, resource, id);
     if (!id.empty()) {
         setText("id", id);
     }
@@ -154,7 +156,7 @@ void Element::readNested(data::Value const& value)
 
 void Element::setText(std::string_view key, std::string const& text)
 {
-    hold(*m_resource->find(key)).plain.push_back({text});
+    hold(*m_resource->find(key)).plain.push_back(textOf(text));
 }
 
 /// The place for what the field is about to hold: behind what it holds already if it is a list.
@@ -170,34 +172,38 @@ Element::Held& Element::hold(Field const& field)
     return *place;
 }
 
-Tree Element::form(NestedForm nested) const
+std::string Element::form(NestedForm nested) const
 {
-    Tree::Map map;
+    std::string text;
     for (Held const& held : m_held) {
-        std::vector<Tree> entries = held.plain;
+        std::string entries;
+        auto const add = [&entries](std::string const& entry) {
+            entries += (entries.empty() ? "" : ",") + entry;
+        };
+        std::ranges::for_each(held.plain, add);
         for (Element const& element : held.elements) {
-            entries.push_back((element.*nested)());
+            add((element.*nested)());
         }
-        map.push_back({std::string(held.key),
-                       catalogue::isList(held.kind) ? Tree{entries} : entries.front()});
+        text += (text.empty() ? "" : ",") + textOf(std::string(held.key)) + ':' +
+                (catalogue::isList(held.kind) ? '[' + entries + ']' : entries);
     }
-    return {std::move(map)};
+    return '{' + text + '}';
 }
 
-Tree Element::full() const
+std::string Element::full() const
 {
     return form(&Element::full);
 }
 
-Tree Element::shallow() const
+std::string Element::shallow() const
 {
     return form(&Element::reference);
 }
 
-Tree Element::reference() const
+std::string Element::reference() const
 {
     auto const uri = std::ranges::find(m_held, "uri", &Held::key);
-    return uri == m_held.end() ? Tree{std::string()} : uri->plain.front();
+    return uri == m_held.end() ? "\"\"" : uri->plain.front();
 }
 
 void Collection::read(data::Value const* value)
@@ -212,13 +218,13 @@ void Collection::read(data::Value const* value)
     }
 }
 
-Tree Collection::full() const
+std::string Collection::full() const
 {
-    Tree::List list;
+    std::string text;
     for (Element const& element : m_elements) {
-        list.push_back(element.full());
+        text += (text.empty() ? "" : ",") + element.full();
     }
-    return {std::move(list)};
+    return '[' + text + ']';
 }
 
 Collection modelOf(catalogue::Resource const& resource, data::Value const* value)

@@ -1,12 +1,14 @@
 #pragma once
 
-#include "tests/model/Tree.h"
-
 #include "catalogue/Catalogue.h"
 
 #include <string>
 #include <string_view>
 #include <vector>
+
+namespace zel::dataformats::data {
+class Value;
+} // namespace zel::dataformats::data
 
 /// What the library has to make of a value, worked out from the catalogue alone and without any of
 /// the library's code: only the value classes and `getUriSplitted` are shared with it.
@@ -24,21 +26,21 @@ public:
     /// Reads a value, which may be null, on top of those read before.
     void read(zel::dataformats::data::Value const* value);
 
-    /// The three value forms.
-    [[nodiscard]] Tree full() const;
-    [[nodiscard]] Tree shallow() const;
-    [[nodiscard]] Tree reference() const;
+    /// The texts of the three value forms.
+    [[nodiscard]] std::string full() const;
+    [[nodiscard]] std::string shallow() const;
+    [[nodiscard]] std::string reference() const;
 
 private:
-    /// A field that is set: the value forms of a plain field, or the elements held.
+    /// A field that is set: the texts of a plain field, or the elements held.
     struct Held {
         std::string_view key;
         zel::kiv::catalogue::Kind kind;
-        std::vector<Tree> plain;
+        std::vector<std::string> plain;
         std::vector<Element> elements;
     };
 
-    using NestedForm = Tree (Element::*)() const;
+    using NestedForm = std::string (Element::*)() const;
 
     void readField(zel::kiv::catalogue::Field const& field,
                    zel::dataformats::data::Value const& value);
@@ -47,7 +49,7 @@ private:
     void readNested(zel::dataformats::data::Value const& value);
     void setText(std::string_view key, std::string const& text);
     Held& hold(zel::kiv::catalogue::Field const& field);
-    [[nodiscard]] Tree form(NestedForm nested) const;
+    [[nodiscard]] std::string form(NestedForm nested) const;
 
     zel::kiv::catalogue::Resource const* m_resource;
     std::vector<Held> m_held; ///< in ascending order of keys
@@ -63,8 +65,8 @@ public:
 
     [[nodiscard]] std::vector<Element> const& elements() const { return m_elements; }
 
-    /// The value form of the resource.
-    [[nodiscard]] Tree full() const;
+    /// The text of the value form.
+    [[nodiscard]] std::string full() const;
 
 private:
     zel::kiv::catalogue::Resource const* m_resource;

@@ -311,8 +311,7 @@ std::unique_ptr<data::Value> RandomTree::forResource(Resource const& resource)
 {
     restart();
     if (oneIn(64)) {
-        auto value = anything(3);
-        return value != nullptr ? std::move(value) : std::make_unique<data::Null>();
+        return anything(3);
     }
     auto array = std::make_unique<data::Array>();
     for (std::size_t left = below(4); left > 0; --left) {

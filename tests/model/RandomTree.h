@@ -35,7 +35,7 @@ public:
     explicit RandomTree(Source source) : m_source(std::move(source)) {}
     explicit RandomTree(std::uint64_t seed);
 
-    /// What a resource could be given, mostly an array. Never null.
+    /// What a resource could be given, mostly an array; may be null.
     std::unique_ptr<Value> forResource(Resource const& resource);
 
 private:

@@ -1,4 +1,5 @@
-#include "tests/model/Samples.h"
+#include "tests/model/Text.h"
+#include "tests/unit/frame/FromJson.h"
 #include "tests/unit/platform/Allocations.h"
 
 #include "frame/ElementStatus.h"
@@ -19,48 +20,34 @@ namespace {
 
 using namespace zel::kiv::common;
 using namespace zel::dataformats::data;
-using model::Tree;
-using Map = Tree::Map;
+using model::textOf;
 using Setting = door::DoorSettings::DoorSettingObject;
 using Control = door::SwitchControls::SwitchControlObject;
 using Preset = radio::Presets::PresetObject;
 using Station = radio::Stations::StationObject;
 
-Tree const nothing{Tree::Nothing{}};
-
-Tree text(std::string const& content)
-{
-    return {content};
-}
-
-std::string full(IObjectBase const& element)
-{
-    return model::describe(samples::fullOf(element));
-}
-
 /// What `normalizeObject` says, whether it points elsewhere, and what it left in the object.
-std::string normalized(Tree const& given)
+std::string normalized(std::string const& given)
 {
-    auto const value = model::valueOf(given);
+    auto const value = fromJson(given);
     Object temporary;
     Object* object = &temporary;
     std::string const result = IObjectBase::normalizeObject(*value, object) ? "true" : "false";
     EXPECT_TRUE(object == value.get() || object == &temporary);
-    EXPECT_EQ(model::difference(given, model::treeOf(value.get())), "") << "it was changed";
+    EXPECT_EQ(textOf(value.get()), given) << "it was changed";
     return result + (object == value.get() ? " the value, " : " the temporary, ") +
-           model::describe(model::treeOf(&temporary));
+           textOf(&temporary);
 }
 
 TEST(NormalizeObject, takesTextForAUriAnObjectAsItIsAndNothingElse)
 {
-    EXPECT_EQ(normalized(text("/radio/stations/7")),
+    EXPECT_EQ(normalized(R"("/radio/stations/7")"),
               R"(true the temporary, {"id":"7","uri":"/radio/stations/7"})");
-    EXPECT_EQ(normalized(text("/radio/stations")),
+    EXPECT_EQ(normalized(R"("/radio/stations")"),
               R"(true the temporary, {"uri":"/radio/stations"})");
-    EXPECT_EQ(normalized(text("")), R"(true the temporary, {"uri":""})");
-    EXPECT_EQ(normalized({Map{{"uri", text("/radio/stations/7")}}}), "true the value, {}");
-    for (Tree const& other : {Tree{7}, Tree{1.5}, Tree{true}, Tree{Tree::Other{"Null"}},
-                              Tree{Tree::List{text("/radio/stations/7")}}}) {
+    EXPECT_EQ(normalized(R"("")"), R"(true the temporary, {"uri":""})");
+    EXPECT_EQ(normalized(R"({"uri":"/radio/stations/7"})"), "true the value, {}");
+    for (char const* const other : {"7", "1.5", "true", R"(["/radio/stations/7"])"}) {
         EXPECT_EQ(normalized(other), "false the temporary, {}");
     }
 }
@@ -91,15 +78,14 @@ TEST(ServiceAndResource, isWhatStandsBeforeTheSecondSlash)
 TEST(ExternalResource, readsItsThreeFieldsOfObjectsOnly)
 {
     ExternalResourceObject object;
-    for (Tree const& given :
-         {Tree{Map{{"id", text("1")}, {"name", {7}}, {"other", {1}}, {"uri", nothing}}},
-          text("/a/b/2"), Tree{Tree::List{text("x")}}, Tree{7}, nothing}) {
-        EXPECT_TRUE(object.deserialize(model::valueOf(given).get()));
-        EXPECT_EQ(full(object), R"({"id":"1","name":"7"})");
+    for (char const* const given :
+         {R"({"id":"1","name":7,"other":1,"uri":null})", R"("/a/b/2")", R"(["x"])", "7", "null"}) {
+        EXPECT_TRUE(object.deserialize(fromJson(given).get()));
+        EXPECT_EQ(textOf(object), R"({"id":"1","name":"7"})");
     }
-    EXPECT_EQ(model::describe(samples::referenceOf(object)), R"("")");
+    EXPECT_EQ(textOf(object, SerializationType::Reference), R"("")");
     object.setUri("/a/b/1");
-    EXPECT_EQ(model::describe(samples::referenceOf(object)), R"("/a/b/1")");
+    EXPECT_EQ(textOf(object, SerializationType::Reference), R"("/a/b/1")");
 }
 
 /// Whoever replaces an element holds on to the old one: the setter does not free it.
@@ -116,16 +102,16 @@ TEST(Ownership, aReplacedElementStaysAliveAndIsNobodys)
         EXPECT_EQ(first->getName(), "the first");
 
         std::unique_ptr<Control> const second(setting.getDoorOpening());
-        setting.deserialize(model::valueOf({Map{{"doorOpening", {7}}}}).get());
+        setting.deserialize(fromJson(R"({"doorOpening":7})").get());
         EXPECT_NE(setting.getDoorOpening(), second.get());
 
         Preset preset;
         preset.setStation(std::make_unique<Station>());
         std::unique_ptr<IObjectBase> const station(preset.getStation());
         preset.setStation(std::make_unique<ExternalResourceObject>());
-        EXPECT_EQ(full(*station), "{}");
+        EXPECT_EQ(textOf(*station), "{}");
         // A value that selects nothing replaces nothing.
-        preset.deserialize(model::valueOf({Map{{"station", text("/radio/stations")}}}).get());
+        preset.deserialize(fromJson(R"({"station":"/radio/stations"})").get());
         EXPECT_TRUE(preset.isExternalResourceObjectStationSet());
     }
     EXPECT_EQ(allocations::alive(), before);
