@@ -32,8 +32,9 @@ public:
     void declare(commandline::Arguments arguments) override
     {
         arguments.required("WORD", m_word,
-                           "A part of a service, resource, class or key, in any case; or a kind of "
-                           "field in full, such as polymorphic or 'element list'");
+                           "A part of a service, resource, class or key, or of what is said of it, "
+                           "in any case; or a kind of field in full, such as polymorphic or "
+                           "'element list'");
     }
 
     Exit run(Console& console) override
@@ -43,8 +44,9 @@ public:
         addServices(table);
         addResources(table);
         addFields(table);
+        addTexts(table);
         if (table.empty()) {
-            throw Failure("nothing has '" + m_word + "' in its name" +
+            throw Failure("nothing has '" + m_word + "' in its name or in its text" +
                           didYouMean(m_word, allKeys()));
         }
         table.print(console);
@@ -54,10 +56,9 @@ public:
 private:
     void addServices(Table& table) const
     {
-        for (auto const service : services()) {
-            if (matches(service)) {
-                table.add({std::string(service), "service",
-                           counted(resourcesOf(service).size(), "resource")});
+        for (auto const& service : catalogue::services()) {
+            if (matches(service.name)) {
+                table.add({std::string(service.name), "service", std::string(service.about)});
             }
         }
     }
@@ -65,11 +66,7 @@ private:
     void addResources(Table& table) const
     {
         for (auto const& resource : catalogue::resources()) {
-            // The service is part of the name only for a word that asks for it, or else `radio`
-            // would find each of its resources.
-            bool const whole = m_lowered.find('/') != std::string::npos;
-            if (matches(whole ? nameOf(&resource) : std::string(resource.resourceKey)) ||
-                matches(resource.name) || matches(resource.element)) {
+            if (isNamed(resource)) {
                 table.add({nameOf(&resource), "resource", std::string(resource.about)});
             }
         }
@@ -79,12 +76,47 @@ private:
     {
         for (auto const& resource : catalogue::resources()) {
             for (auto const& field : resource.fields) {
-                if (matches(field.key) || wordOf(field.kind) == m_lowered) {
+                if (isNamed(field)) {
                     table.add({nameOf(FieldOf{&resource, &field}), std::string(wordOf(field.kind)),
                                listed(targetNames(field), "or")});
                 }
             }
         }
+    }
+
+    /// What is not named so, but is told of with that word.
+    void addTexts(Table& table) const
+    {
+        for (auto const& service : catalogue::services()) {
+            if (!matches(service.name) && matches(service.about)) {
+                table.add({std::string(service.name), "service", std::string(service.about)});
+            }
+        }
+        for (auto const& resource : catalogue::resources()) {
+            if (!isNamed(resource) && matches(resource.about)) {
+                table.add({nameOf(&resource), "resource", std::string(resource.about)});
+            }
+            for (auto const& field : resource.fields) {
+                if (!isNamed(field) && matches(field.note)) {
+                    table.add({nameOf(FieldOf{&resource, &field}), std::string(wordOf(field.kind)),
+                               std::string(field.note)});
+                }
+            }
+        }
+    }
+
+    [[nodiscard]] bool isNamed(catalogue::Resource const& resource) const
+    {
+        // The service is part of the name only for a word that asks for it, or else `radio` would
+        // find each of its resources.
+        bool const whole = m_lowered.find('/') != std::string::npos;
+        return matches(whole ? nameOf(&resource) : std::string(resource.resourceKey)) ||
+               matches(resource.name) || matches(resource.element);
+    }
+
+    [[nodiscard]] bool isNamed(catalogue::Field const& field) const
+    {
+        return matches(field.key) || wordOf(field.kind) == m_lowered;
     }
 
     [[nodiscard]] bool matches(std::string_view name) const

@@ -45,21 +45,24 @@ private:
 
     static void listServices(Console& console)
     {
-        Table table;
-        std::size_t resources = 0;
         std::size_t fields = 0;
-        for (auto const service : services()) {
-            auto const members = resourcesOf(service);
-            std::size_t const own = fieldsOf(members);
-            table.add(
-                {std::string(service), counted(members.size(), "resource"), counted(own, "field")});
-            resources += members.size();
-            fields += own;
+        for (auto const group : catalogue::groups) {
+            Table table;
+            for (auto const& service : catalogue::services()) {
+                if (service.group != group) {
+                    continue;
+                }
+                auto const own = fieldsOf(resourcesOf(service.name));
+                table.add({std::string(service.name), counted(service.resources.size(), "resource"),
+                           counted(own, "field"), firstSentence(service.about)});
+                fields += own;
+            }
+            console.output.write(std::string(group) + "\n");
+            table.print(console, "  ");
         }
-        table.print(console);
         console.output.write(counted(services().size(), "service") + ", " +
-                             counted(resources, "resource") + ", " + counted(fields, "field") +
-                             "\n");
+                             counted(catalogue::resources().size(), "resource") + ", " +
+                             counted(fields, "field") + "\n");
     }
 
     void listResources(Console& console) const

@@ -31,6 +31,9 @@ std::unique_ptr<data::Value> fieldValue(catalogue::Field const& field)
     value->setNew("accessors", accessors.release());
     value->setNew("key", json::text(field.key).release());
     value->setNew("kind", json::text(wordOf(field.kind)).release());
+    if (!field.note.empty()) {
+        value->setNew("note", json::text(field.note).release());
+    }
     value->setNew("targets", targets.release());
     return value;
 }
@@ -78,6 +81,20 @@ void printHeading(catalogue::Resource const& resource, Console& console)
     table.print(console);
 }
 
+void printNotes(catalogue::Resource const& resource, Console& console)
+{
+    Table table;
+    for (auto const& field : resource.fields) {
+        if (!field.note.empty()) {
+            table.add({std::string(field.key), std::string(field.note)});
+        }
+    }
+    if (!table.empty()) {
+        console.output.write("\nnotes\n");
+        table.print(console, "  ");
+    }
+}
+
 void printFields(catalogue::Resource const& resource, Console& console)
 {
     console.output.write("\n" + counted(resource.fields.size(), "field") + "\n");
@@ -86,6 +103,7 @@ void printFields(catalogue::Resource const& resource, Console& console)
         table.add({std::string(field.key), std::string(wordOf(field.kind)), targetsText(field)});
     }
     table.print(console, "  ");
+    printNotes(resource, console);
     console.output.write("\naccessors\n");
     for (auto const& field : resource.fields) {
         for (auto const& accessor : field.accessors) {

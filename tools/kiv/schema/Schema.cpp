@@ -151,7 +151,9 @@ Schema schemaFor(catalogue::Field const& field)
 std::string descriptionOf(catalogue::Field const& field)
 {
     std::string const targets = listed(targetNames(field), "or");
-    return std::string(catalogue::wordOf(field.kind)) + (targets.empty() ? "" : ": " + targets);
+    auto const kind =
+        std::string(catalogue::wordOf(field.kind)) + (targets.empty() ? "" : ": " + targets);
+    return field.note.empty() ? kind : std::string(field.note) + " (" + kind + ")";
 }
 
 Schema elementWith(std::unique_ptr<data::Object> properties)
