@@ -105,7 +105,6 @@ void checkAccessorsOf(Resource const& resource, Interface const& interface, Faul
 void checkTargets(std::vector<Definition> const& definitions, std::vector<std::string> const& names,
                   Faults& faults)
 {
-    constexpr std::size_t mostSuggestions = 100; // each takes a look at every resource
     std::size_t wrong = 0;
     TargetCheck const check{definitions, names};
     for (Definition const& definition : definitions) {

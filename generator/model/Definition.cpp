@@ -72,6 +72,7 @@ void Reader::read(Node const& document)
         fail(resource.place, "[fields] is missing; it stands empty if the element has no fields "
                              "but id, name and uri");
     }
+    std::ranges::sort(resource.fields, {}, &Field::key);
     if (auto const* const notes = find(document, "notes")) {
         readNotes(*notes);
     }
@@ -112,19 +113,23 @@ void Reader::readNotes(Entry const& entry)
         return;
     }
     checkOrder(entry.value, m_faults);
-    std::vector<std::string_view> const keys{m_definition.keys.begin(), m_definition.keys.end()};
+    std::size_t wrong = 0;
     for (Entry const& row : entry.value.table) {
         auto const shown = inQuotes(row.key);
-        if (std::ranges::find(keys, row.key) == keys.end()) {
+        if (!m_definition.keys.contains(row.key)) {
+            std::vector<std::string_view> known;
+            if (++wrong <= mostSuggestions) {
+                known.assign(m_definition.keys.begin(), m_definition.keys.end());
+            }
             fail(row.place, "a note on " + shown + ", which is no key of this element" +
-                                kiv::didYouMean(row.key, keys));
+                                kiv::didYouMean(row.key, known));
         }
         auto note = readProse(
             row, {"the note on " + shown, "it says in a sentence what the field is", longestNote},
             m_faults);
         auto& fields = m_definition.resource.fields;
-        auto const field = std::ranges::find(fields, row.key, &Field::key);
-        if (field != fields.end()) { // else its row is faulty, or it has none
+        auto const field = std::ranges::lower_bound(fields, row.key, {}, &Field::key);
+        if (field != fields.end() && field->key == row.key) { // else it has no row, or a faulty one
             field->note = note.text;
         }
         m_definition.prose.push_back(std::move(note));
@@ -151,7 +156,7 @@ void Reader::readOverride(Entry const& entry, std::string_view className, std::s
 void addImplied(Definition& definition)
 {
     for (auto const* const key : commonKeys) {
-        definition.keys.emplace_back(key);
+        definition.keys.emplace(key);
         definition.resource.fields.push_back(
             {key, Kind::String, {}, definition.resource.place, {}});
     }
@@ -170,7 +175,6 @@ Definition readDefinition(Node const& document, std::string const& service, std:
     resource.place = file;
     addImplied(definition);
     Reader{definition, faults}.read(document);
-    std::ranges::sort(resource.fields, {}, &Field::key);
     return definition;
 }
 

@@ -4,10 +4,14 @@
 #include "generator/model/Prose.h"
 #include "generator/model/TomlReader.h"
 
+#include <set>
 #include <string>
 #include <vector>
 
 namespace kivgen {
+
+/// How many faults of one kind have a suggestion: each takes a look at every name.
+inline constexpr std::size_t mostSuggestions = 100;
 
 /// A target as a definition spells it, for the check whether it exists.
 struct Use {
@@ -18,10 +22,10 @@ struct Use {
 /// What one file says.
 struct Definition {
     Resource resource;
-    std::vector<Use> uses;         ///< all targets but external ones
-    SourcePosition placeOfKey;     ///< where `resource_key` is given, or the file as a whole
-    std::vector<std::string> keys; ///< of all fields, also of those whose row is faulty
-    std::vector<Prose> prose;      ///< what it says to people
+    std::vector<Use> uses;      ///< all targets but external ones
+    SourcePosition placeOfKey;  ///< where `resource_key` is given, or the file as a whole
+    std::set<std::string> keys; ///< of all fields, also of those whose row is faulty
+    std::vector<Prose> prose;   ///< what it says to people
 };
 
 /// Takes a definition out of the table of its file, `id`, `name` and `uri` added. Whatever is wrong

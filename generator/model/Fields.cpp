@@ -218,7 +218,7 @@ void readFields(Entry const& fields, Definition& definition, Faults& faults)
     checkOrder(fields.value, faults);
     Reader reader{definition, faults};
     for (Entry const& row : fields.value.table) {
-        definition.keys.push_back(row.key);
+        definition.keys.insert(row.key);
         reader.readRow(row);
     }
 }

@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::array<std::string_view, 5> frameNames{
     "ElementStatus", "ExternalResourceObject", "IObjectBase", "IResourceBase", "SerializationType"};
-constexpr std::size_t mostSuggestions = 100; // each takes a look at every name
 
 /// Every name that holds everywhere, with the definition that it stands for: null for a service, a
 /// class of the frame, and a resource whose file cannot be read.
@@ -27,8 +26,7 @@ public:
     void check(Prose const& prose, std::string const& service, Definition const* own);
 
 private:
-    void fail(Prose const& prose, std::string const& name, Names const& names,
-              Definition const* own);
+    std::string whatIsWrong(std::string const& name, Names const& local, Definition const* own);
     [[nodiscard]] std::string ownerOf(std::string const& key) const;
 
     std::vector<Definition> const& m_definitions;
@@ -37,11 +35,6 @@ private:
     std::map<std::string, Names> m_local; ///< by service: its resources and elements
     std::size_t m_wrong = 0;
 };
-
-bool hasKey(Definition const& definition, std::string const& key)
-{
-    return std::ranges::find(definition.keys, key) != definition.keys.end();
-}
 
 Check::Check(std::vector<Definition> const& definitions, std::vector<ServiceFile> const& services,
              std::vector<std::string> const& files, Faults& faults)
@@ -83,10 +76,10 @@ void Check::check(Prose const& prose, std::string const& service, Definition con
     scope.push_back(own);
     for (std::string const* const name : rest) {
         bool const isKey = std::ranges::any_of(scope, [name](Definition const* definition) {
-            return definition != nullptr && hasKey(*definition, *name);
+            return definition != nullptr && definition->keys.contains(*name);
         });
         if (!isKey) {
-            fail(prose, *name, local, own);
+            m_faults.push_back({prose.place, whatIsWrong(*name, local, own)});
         }
     }
 }
@@ -94,34 +87,35 @@ void Check::check(Prose const& prose, std::string const& service, Definition con
 std::string Check::ownerOf(std::string const& key) const
 {
     auto const owner = std::ranges::find_if(
-        m_definitions, [&](Definition const& definition) { return hasKey(definition, key); });
+        m_definitions, [&](Definition const& definition) { return definition.keys.contains(key); });
     return owner == m_definitions.end() ? ""
                                         : owner->resource.service + "::" + owner->resource.name;
 }
 
-void Check::fail(Prose const& prose, std::string const& name, Names const& names,
-                 Definition const* own)
+std::string Check::whatIsWrong(std::string const& name, Names const& local, Definition const* own)
 {
     auto text = "there is no " + inQuotes(name) + " to name in backticks";
-    if (auto const owner = ownerOf(name); !owner.empty()) {
-        text = inQuotes(name) +
-               " is a key of another element; a text that names it names its "
-               "resource too, such as " +
-               inQuotes(owner);
-    } else if (++m_wrong <= mostSuggestions) {
-        std::vector<std::string_view> known;
-        if (own != nullptr) {
-            known.assign(own->keys.begin(), own->keys.end());
-        }
-        for (Names const* const each : {&names, static_cast<Names const*>(&m_everywhere)}) {
-            for (auto const& [one, definition] : *each) {
-                known.emplace_back(one);
-            }
-        }
-        // A file whose name is refused is a name here too, with whatever bytes it has.
-        text += printable(kiv::didYouMean(name, known));
+    if (++m_wrong > mostSuggestions) {
+        return text;
     }
-    m_faults.push_back({prose.place, std::move(text)});
+    if (auto const owner = ownerOf(name); !owner.empty()) {
+        return inQuotes(name) +
+               " is a key of another element; a text that names it names its resource too, such "
+               "as " +
+               inQuotes(owner);
+    }
+    std::vector<std::string_view> known;
+    if (own != nullptr) {
+        known.assign(own->keys.begin(), own->keys.end());
+    }
+    for (auto const& [one, definition] : local) {
+        known.emplace_back(one);
+    }
+    for (auto const& [one, definition] : m_everywhere) {
+        known.emplace_back(one);
+    }
+    // A file whose name is refused is a name here too, with whatever bytes it has.
+    return text + printable(kiv::didYouMean(name, known));
 }
 
 } // namespace
