@@ -35,16 +35,16 @@ std::string plainText(Kind kind, data::Value const& value)
     data::Ref const ref(&value);
     switch (catalogue::traitsOf(kind).content) {
     case Content::Integer:
-        return textOf(ref.asInteger());
+        return textAs<data::Integer>(ref.asInteger());
     case Content::Float:
-        return textOf(ref.asFloat());
+        return textAs<data::Float>(ref.asFloat());
     case Content::Boolean:
-        return textOf(ref.asBoolean());
+        return textAs<data::Boolean>(ref.asBoolean());
     case Content::String:
     case Content::Object:
         break;
     }
-    return textOf(ref.asString());
+    return textAs<data::String>(ref.asString());
 }
 
 /// The uri that a polymorphic field goes by.
@@ -156,7 +156,7 @@ void Element::readNested(data::Value const& value)
 
 void Element::setText(std::string_view key, std::string const& text)
 {
-    hold(*m_resource->find(key)).plain.push_back(textOf(text));
+    hold(*m_resource->find(key)).plain.push_back(textAs<data::String>(text));
 }
 
 /// The place for what the field is about to hold: behind what it holds already if it is a list.
@@ -184,7 +184,7 @@ std::string Element::form(NestedForm nested) const
         for (Element const& element : held.elements) {
             add((element.*nested)());
         }
-        text += (text.empty() ? "" : ",") + textOf(std::string(held.key)) + ':' +
+        text += (text.empty() ? "" : ",") + textAs<data::String>(std::string(held.key)) + ':' +
                 (catalogue::isList(held.kind) ? '[' + entries + ']' : entries);
     }
     return '{' + text + '}';

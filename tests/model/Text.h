@@ -1,29 +1,38 @@
 #pragma once
 
 #include "catalogue/Catalogue.h"
-#include "frame/IObjectBase.h"
-#include "frame/SerializationType.h"
+#include "testing/toJson.h"
 
 #include <string>
 
-/// Values as texts close to JSON, which differ if the values differ in anything.
+/// Values as texts, which differ if the values differ in anything that the library can write.
 namespace model {
 
-std::string textOf(bool flag);
-std::string textOf(int number);
-std::string textOf(double number); ///< `1.0`, unlike an integer
-std::string textOf(std::string const& text);
-std::string textOf(char const* text) = delete; // would become a flag
-
 /// What that value, which may be null, holds.
-std::string textOf(zel::dataformats::data::Value const* value);
+inline std::string textOf(zel::dataformats::data::Value const* value)
+{
+    return zel::kiv::testing::toJson(value);
+}
+
+/// What a plain value of that type holds.
+template <typename Type, typename Plain>
+std::string textAs(Plain const& plain)
+{
+    return zel::kiv::testing::toJson(Type(plain));
+}
 
 /// What the library makes of an element.
-std::string
+inline std::string
 textOf(zel::kiv::common::IObjectBase const& element,
-       zel::kiv::common::SerializationType type = zel::kiv::common::SerializationType::Full);
+       zel::kiv::common::SerializationType type = zel::kiv::common::SerializationType::Full)
+{
+    return textOf(element.serialize(type).get());
+}
 
 /// The resource's name, for messages: `radio/presets`.
-std::string nameOf(zel::kiv::catalogue::Resource const& resource);
+inline std::string nameOf(zel::kiv::catalogue::Resource const& resource)
+{
+    return std::string(resource.service) + '/' + std::string(resource.resourceKey);
+}
 
 } // namespace model

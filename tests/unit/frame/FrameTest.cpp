@@ -1,5 +1,6 @@
+#include "testing/fromJson.h"
 #include "tests/model/Text.h"
-#include "tests/unit/frame/FromJson.h"
+
 #include "tests/unit/platform/Allocations.h"
 
 #include "frame/ElementStatus.h"
@@ -21,6 +22,7 @@ namespace {
 using namespace zel::kiv::common;
 using namespace zel::dataformats::data;
 using model::textOf;
+using zel::kiv::testing::fromJson;
 using Setting = door::DoorSettings::DoorSettingObject;
 using Control = door::SwitchControls::SwitchControlObject;
 using Preset = radio::Presets::PresetObject;

@@ -1,5 +1,5 @@
+#include "testing/fromJson.h"
 #include "tests/model/Text.h"
-#include "tests/unit/frame/FromJson.h"
 
 #include "services/velocitythreshold/Thresholds.h"
 
@@ -13,6 +13,7 @@ namespace {
 using model::textOf;
 using zel::kiv::common::SerializationType;
 using zel::kiv::common::velocitythreshold::Thresholds;
+using zel::kiv::testing::fromJson;
 
 /// One good entry, one poor one, one with a null and one that is no object.
 std::string const given = R"([
@@ -36,7 +37,7 @@ TEST(Thresholds, GoInAndComeOutInThreeForms)
     EXPECT_FALSE(slots[3]->isThresholdIsExceededSet());
     for (auto const& each : slots) {
         EXPECT_EQ(textOf(*each, SerializationType::Shallow), textOf(*each));
-        EXPECT_EQ(textOf(*each, SerializationType::Reference), textOf(each->getUri()));
+        EXPECT_EQ(textOf(*each, SerializationType::Reference), '"' + each->getUri() + '"');
     }
     EXPECT_EQ(slots[0]->getUri(), "/velocitythreshold/thresholds/1");
 }
