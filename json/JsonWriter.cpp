@@ -6,24 +6,88 @@
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/writer.h>
 
+#include <array>
 #include <cmath>
+#include <cstdio>
+#include <string>
+#include <string_view>
 
 namespace kiv::json {
 
 namespace {
 
-/// The output as RapidJSON wants it.
+/// The code of a character that a terminal would act on, if these bytes are one of those that JSON
+/// lets stand; otherwise 0.
+unsigned dangerousCode(std::string_view bytes)
+{
+    auto const byte = [&](std::size_t at) -> unsigned {
+        return static_cast<unsigned char>(bytes[at]);
+    };
+    if (bytes == "\x7F") {
+        return byte(0);
+    }
+    if (bytes.size() == 2) {
+        return byte(1) >= 0x80U && byte(1) < 0xA0U ? byte(1) : 0;
+    }
+    unsigned const code = 0x2000U | ((byte(1) & 0x3FU) << 6U) | (byte(2) & 0x3FU);
+    bool const turns = (code >= 0x202AU && code <= 0x202EU) || (code >= 0x2066U && code <= 0x2069U);
+    return turns ? code : 0;
+}
+
+/// The output as RapidJSON wants it. Characters that JSON lets stand and a terminal would act on
+/// are escaped: they stand in texts and keys alone.
 class Stream {
 public:
     using Ch = char;
 
     explicit Stream(Output& output) : m_output(output) {}
 
-    void Put(char character) { m_output.put(character); }
+    void Put(char character)
+    {
+        if (m_held.empty() && lengthBehind(character) == 0) {
+            m_output.put(character);
+            return;
+        }
+        m_held += character;
+        if (m_held.size() == lengthBehind(m_held.front())) {
+            release();
+        }
+    }
     static void Flush() {}
 
+    /// Writes what may have been the beginning of such a character.
+    void release()
+    {
+        bool const isWhole = !m_held.empty() && m_held.size() == lengthBehind(m_held.front());
+        unsigned const code = isWhole ? dangerousCode(m_held) : 0;
+        if (code == 0) {
+            m_output.write(m_held);
+        } else {
+            std::array<char, 8> escape{};
+            static_cast<void>(std::snprintf(escape.data(), escape.size(), "\\u%04x", code));
+            m_output.write(escape.data());
+        }
+        m_held.clear();
+    }
+
 private:
+    /// How many bytes a character has that begins so; 0 if it is none of those that are escaped.
+    static std::size_t lengthBehind(char first)
+    {
+        switch (first) {
+        case '\x7F':
+            return 1;
+        case '\xC2':
+            return 2;
+        case '\xE2':
+            return 3;
+        default:
+            return 0;
+        }
+    }
+
     Output& m_output;
+    std::string m_held;
 };
 
 /// Refuses what is no JSON.
@@ -61,7 +125,11 @@ public:
 
     void startArray() override { m_target.StartArray(); }
 
-    void entry(data::Value const* value) override { StrictVisitor<Target>(m_target).write(value); }
+    void entry(data::Value const* value) override
+    {
+        StrictVisitor<Target>(m_target).write(value);
+        m_stream.release();
+    }
 
     void endArray() override
     {

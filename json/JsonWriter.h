@@ -11,6 +11,7 @@ enum class Layout { Indented, Compact };
 
 /// Writes values as JSON in UTF-8, a line break after the document. Keys come in the order of the
 /// object, numbers in the shortest form that reads back as the same number of the same type.
+/// Characters that a terminal would act on are escaped.
 ///
 /// Every operation throws `Failure` if the output cannot be written, or on what JSON cannot hold:
 /// a number that is not finite, or a blob. The stack is used in proportion to the depth of the

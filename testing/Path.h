@@ -45,7 +45,14 @@ private:
     static std::string stepText(std::size_t index) { return "[" + std::to_string(index) + "]"; }
     static std::string stepText(std::string_view key)
     {
-        return isWord(key) ? "." + std::string(key) : "[\"" + std::string(key) + "\"]";
+        if (isWord(key)) {
+            return "." + std::string(key);
+        }
+        std::string text = "[\"";
+        for (char const each : key) { // what stands in the quotes cannot end them
+            text.append(each == '"' || each == '\\' ? "\\" : "").push_back(each);
+        }
+        return text + "\"]";
     }
 
     std::vector<std::variant<std::size_t, std::string_view>> m_steps;

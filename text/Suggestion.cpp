@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <utility>
 
 namespace kiv {
@@ -10,10 +11,56 @@ namespace {
 /// Longer words are not compared: no known name comes near, and the cost stays bounded.
 constexpr std::size_t longestWord = 120;
 
-/// How many slips a word of that length may hold and still be taken for another.
+/// How many slips a word of that length may hold and still be taken for another. Of words of two
+/// letters every other one is near.
 std::size_t slipsIn(std::size_t length)
 {
-    return std::clamp<std::size_t>(length / 3, 1, 4);
+    return std::min<std::size_t>(length / 3, 4);
+}
+
+bool isUpper(char letter)
+{
+    return letter >= 'A' && letter <= 'Z';
+}
+
+bool isLetterOrDigit(char letter)
+{
+    return isUpper(letter) || (letter >= 'a' && letter <= 'z') || (letter >= '0' && letter <= '9');
+}
+
+std::string lowered(std::string_view text)
+{
+    std::string result(text);
+    for (char& letter : result) {
+        letter = isUpper(letter) ? static_cast<char>(letter - 'A' + 'a') : letter;
+    }
+    return result;
+}
+
+/// The words that a name is made of, in small letters: "gear", "mode" of `gearMode`.
+std::vector<std::string> wordsIn(std::string_view name)
+{
+    std::vector<std::string> words;
+    char before = '\0';
+    for (char const letter : name) {
+        bool const begins = isLetterOrDigit(letter) &&
+                            (!isLetterOrDigit(before) || (isUpper(letter) && !isUpper(before)));
+        if (begins) {
+            words.emplace_back();
+        }
+        if (isLetterOrDigit(letter)) {
+            words.back() += lowered({&letter, 1});
+        }
+        before = letter;
+    }
+    return words;
+}
+
+bool areSameWords(std::string_view one, std::string_view other)
+{
+    auto words = wordsIn(one);
+    auto others = wordsIn(other);
+    return words.size() > 1 && std::ranges::is_permutation(words, others);
 }
 
 /// How many letters must be added, dropped, changed or swapped with their neighbour to make one
@@ -59,6 +106,26 @@ bool isBeginning(std::string_view one, std::string_view other)
            (one.starts_with(other) || other.starts_with(one));
 }
 
+/// How far a known name is from what was written: other case, then other order of the words, then
+/// slips. Nothing if it is another word.
+std::optional<std::size_t> distanceBetween(std::string_view word, std::string_view name)
+{
+    std::string const one = lowered(word);
+    std::string const other = lowered(name);
+    if (one == other) {
+        return 0;
+    }
+    if (areSameWords(word, name)) {
+        return 1;
+    }
+    auto const limit = slipsIn(word.size());
+    auto const slips = slipsBetween(one, other, limit);
+    if (slips > limit && !isBeginning(one, other)) {
+        return std::nullopt;
+    }
+    return 2 * slips;
+}
+
 } // namespace
 
 std::vector<std::string> nearest(std::string_view word, std::span<std::string_view const> known,
@@ -67,30 +134,36 @@ std::vector<std::string> nearest(std::string_view word, std::span<std::string_vi
     if (word.size() > longestWord) {
         return {};
     }
-    auto const limit = slipsIn(word.size());
     std::vector<std::pair<std::size_t, std::string_view>> found;
     for (auto const name : known) {
-        if (name.size() > longestWord) {
-            continue;
-        }
-        auto const slips = slipsBetween(word, name, limit);
-        if (slips <= limit || isBeginning(word, name)) {
-            found.emplace_back(slips, name);
+        auto const distance =
+            name.size() > longestWord ? std::nullopt : distanceBetween(word, name);
+        if (distance) {
+            found.emplace_back(*distance, name);
         }
     }
-    std::stable_sort(found.begin(), found.end(),
-                     [](auto const& one, auto const& other) { return one.first < other.first; });
+    std::ranges::stable_sort(found, {}, [](auto const& each) { return each.first; });
     // Words a good deal further off than the closest only distract from it.
     std::erase_if(found, [best = found.empty() ? 0 : found.front().first](auto const& one) {
-        return one.first > best + 1;
+        return one.first > best + 2; // a slip
     });
     found.resize(std::min(found.size(), most));
     std::vector<std::string> names;
     names.reserve(found.size());
-    for (auto const& [slips, name] : found) {
+    for (auto const& [distance, name] : found) {
         names.emplace_back(name);
     }
     return names;
+}
+
+bool isNear(std::string_view word, std::string_view name)
+{
+    auto const words = wordsIn(name);
+    return word.size() <= longestWord && name.size() <= longestWord &&
+           (areSameWords(word, name) || std::ranges::any_of(words, [&](std::string const& part) {
+                auto const limit = slipsIn(std::min(word.size(), part.size()));
+                return slipsBetween(lowered(word), part, limit) <= limit;
+            }));
 }
 
 std::string didYouMean(std::string_view word, std::span<std::string_view const> known)

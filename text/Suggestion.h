@@ -10,10 +10,15 @@
 namespace kiv {
 
 /// The known words close to `word`, at most `most` of them, the closest first and equally close
-/// ones in the order of `known`. Close is a typing slip or two, more in long words, or one word
-/// beginning with the other; so the result is often empty.
+/// ones in the order of `known`. Close is another case, then the same words in another order, then
+/// a typing slip or two, more in long words and none in words of two letters, or one word beginning
+/// with the other; so the result is often empty.
 std::vector<std::string> nearest(std::string_view word, std::span<std::string_view const> known,
                                  std::size_t most);
+
+/// Whether one of the words that a name is made of is a slip or two from `word`, or all of them are
+/// those of `word` in another order: `temperature` is near `gearboxOilTemperatur`.
+bool isNear(std::string_view word, std::string_view name);
 
 /// The end of a message about an unknown name: `; did you mean 'string' or 'string list'?`, or
 /// nothing if no known word is close.

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "generator/model/Model.h"
+#include "text/Printable.h"
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace kivgen {
@@ -20,11 +20,7 @@ using Faults = std::vector<Fault>;
 /// column are left out of a fault of the file as a whole.
 std::string toMessage(Fault const& fault);
 
-/// The text as a message may show it: control characters, characters that cannot be seen or that
-/// change the direction of writing, and broken UTF-8 appear as `\x1b`.
-std::string printable(std::string_view text);
-
-/// The text between single quotes, printable, and cut short if it is long.
-std::string inQuotes(std::string_view text);
+using kiv::inQuotes;
+using kiv::printable;
 
 } // namespace kivgen

@@ -1,4 +1,5 @@
 #include "text/Failure.h"
+#include "text/Printable.h"
 #include "text/Suggestion.h"
 #include "tools/kiv/Command.h"
 
@@ -79,7 +80,8 @@ kiv::Exit run(int argc, char const* const* argv, kiv::Console& console)
 void complain(std::string const& where, std::string const& what)
 {
     kiv::Style const style(STDERR_FILENO);
-    std::string const line = style.strong(where + ":") + " " + style.error("error:") + " " + what;
+    std::string const line = style.strong(kiv::printable(where) + ":") + " " +
+                             style.error("error:") + " " + kiv::printable(what);
     static_cast<void>(std::fprintf(stderr, "%s\n", line.c_str()));
 }
 
