@@ -71,7 +71,7 @@ Arguments CommandLine::command(std::string const& name, std::string const& about
 
 void CommandLine::version(std::string const& text)
 {
-    m_app->set_version_flag("--version", text);
+    m_app->set_version_flag("-V,--version", text);
 }
 
 void CommandLine::footer(std::string const& text)

@@ -15,7 +15,9 @@ namespace {
 std::size_t readFrom(std::FILE* file, std::string const& name, std::span<char> buffer)
 {
     std::size_t const count = std::fread(buffer.data(), 1, buffer.size(), file);
-    if (std::ferror(file) != 0) {
+    if (std::ferror(file) != 0 && errno == EINTR) {
+        std::clearerr(file);
+    } else if (std::ferror(file) != 0) {
         throw Failure(name, std::string("cannot read: ") + std::strerror(errno));
     }
     return count;

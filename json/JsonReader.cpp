@@ -31,6 +31,20 @@ bool isControl(char byte)
     return static_cast<unsigned char>(byte) < 0x20U;
 }
 
+/// Whether the reader stopped at a bracket behind a comma.
+bool isTrailingComma(PositionedStream const& stream)
+{
+    return stream.last() == ',' && (stream.Peek() == ']' || stream.Peek() == '}');
+}
+
+/// Whether the reader stopped, outside a text, at what begins a comment elsewhere.
+bool isComment(Fault fault, PositionedStream const& stream)
+{
+    return (stream.Peek() == '/' || stream.Peek() == '#') &&
+           fault != rapidjson::kParseErrorStringEscapeInvalid &&
+           fault != rapidjson::kParseErrorStringInvalidEncoding;
+}
+
 /// What is wrong at the place where the reader stopped, where more can be said than it knows.
 std::string faultWords(Fault fault, PositionedStream const& stream)
 {
@@ -39,6 +53,15 @@ std::string faultWords(Fault fault, PositionedStream const& stream)
     }
     if (!stream.atEnd() && stream.Peek() == '\0') {
         return "a zero byte cannot stand in JSON";
+    }
+    if (isTrailingComma(stream)) {
+        return "no value follows this comma; take it out";
+    }
+    if (isComment(fault, stream)) {
+        return "a comment cannot stand in JSON; take it out";
+    }
+    if (fault == rapidjson::kParseErrorDocumentEmpty && !stream.atEnd()) {
+        return std::string("this '") + stream.Peek() + "' ends what nothing has begun";
     }
     if (fault == rapidjson::kParseErrorDocumentEmpty) {
         return "the file is empty; the least that JSON can be is []";
@@ -54,7 +77,8 @@ std::string faultWords(Fault fault, PositionedStream const& stream)
         return "this text is not in UTF-8";
     }
     if (fault == rapidjson::kParseErrorDocumentRootNotSingular) {
-        return "the document has ended before this";
+        return "the document has ended before this; of a file with a document on each line, kiv reads "
+               "all with --lines";
     }
     if (stream.atEnd()) {
         return "the file ends here, but the document does not";
@@ -70,7 +94,8 @@ Position faultPosition(rapidjson::ParseResult const& result, PositionedStream co
     if (!stream.atEnd() && stream.Peek() == '\0') {
         return stream.here();
     }
-    if (stream.isCut() || result.Code() == rapidjson::kParseErrorStringMissQuotationMark ||
+    if (stream.isCut() || isTrailingComma(stream) ||
+        result.Code() == rapidjson::kParseErrorStringMissQuotationMark ||
         (result.Code() == rapidjson::kParseErrorValueInvalid && stream.inWord())) {
         return stream.token();
     }
@@ -89,12 +114,12 @@ void refuseOtherEncodings(std::string const& file, PositionedStream const& strea
 }
 
 Document read(std::string const& file, ByteSource source, EntryHandler const* handler,
-              WideIntegerHandler const& onWideInteger)
+              WideIntegerHandler const& onWideInteger, Position start)
 {
     constexpr unsigned flags = rapidjson::kParseIterativeFlag |
                                rapidjson::kParseValidateEncodingFlag |
                                rapidjson::kParseNumbersAsStringsFlag;
-    PositionedStream stream(std::move(source));
+    PositionedStream stream(std::move(source), PositionedStream::longestToken, start);
     refuseOtherEncodings(file, stream);
     Document document;
     ValueBuilder builder(file, stream, document, handler, onWideInteger);
@@ -113,12 +138,13 @@ Document read(std::string const& file, ByteSource source, EntryHandler const* ha
 Document readEntries(std::string const& file, ByteSource source, EntryHandler const& handler,
                      WideIntegerHandler const& onWideInteger)
 {
-    return read(file, std::move(source), &handler, onWideInteger);
+    return read(file, std::move(source), &handler, onWideInteger, {});
 }
 
-Document readDocument(std::string const& file, ByteSource source)
+Document readDocument(std::string const& file, ByteSource source, Position start,
+                      WideIntegerHandler const& onWideInteger)
 {
-    return read(file, std::move(source), nullptr, nullptr);
+    return read(file, std::move(source), nullptr, onWideInteger, start);
 }
 
 } // namespace kiv::json

@@ -53,6 +53,8 @@ using WideIntegerHandler =
 Document readEntries(std::string const& file, ByteSource source, EntryHandler const& handler,
                      WideIntegerHandler const& onWideInteger = nullptr);
 
-Document readDocument(std::string const& file, ByteSource source);
+/// Reads all of a document. `start` is the place of its first byte in the file.
+Document readDocument(std::string const& file, ByteSource source, Position start = {},
+                      WideIntegerHandler const& onWideInteger = nullptr);
 
 } // namespace kiv::json

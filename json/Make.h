@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 /// Values that commands put together to write them as JSON.
 namespace kiv::json {
@@ -16,9 +17,10 @@ inline ValuePointer text(std::string_view words)
     return std::make_unique<data::String>(std::string(words));
 }
 
-inline ValuePointer number(int value)
+template <typename Number>
+ValuePointer number(Number value)
 {
-    return std::make_unique<data::Integer>(value);
+    return std::make_unique<data::Integer>(static_cast<int>(value));
 }
 
 inline ValuePointer boolean(bool value)
@@ -34,5 +36,21 @@ ValuePointer array(Entries... entries)
     (list->pushNew(entries.release()), ...);
     return list;
 }
+
+/// An object that is being put together.
+class Members {
+public:
+    Members& with(char const* key, ValuePointer value)
+    {
+        m_object->setNew(key, value.release());
+        return *this;
+    }
+    Members& with(char const* key, std::string_view words) { return with(key, text(words)); }
+
+    ValuePointer take() { return std::move(m_object); }
+
+private:
+    std::unique_ptr<data::Object> m_object = std::make_unique<data::Object>();
+};
 
 } // namespace kiv::json

@@ -30,8 +30,10 @@ public:
     /// not when they run over. So the text ends for it within a longer one.
     static constexpr std::size_t longestToken = std::size_t{2} << 30U;
 
-    explicit PositionedStream(ByteSource source, std::size_t longest = longestToken)
-        : m_source(std::move(source)), m_longest(longest)
+    /// `start` is the place of the first byte.
+    explicit PositionedStream(ByteSource source, std::size_t longest = longestToken,
+                              Position start = {})
+        : m_source(std::move(source)), m_longest(longest), m_here(start), m_token(start)
     {
         std::size_t count = 0;
         do { // a source may give less than it could
@@ -83,6 +85,9 @@ public:
     /// The place where the last token begun.
     [[nodiscard]] Position token() const { return m_token; }
 
+    /// The last byte that was taken, blanks apart.
+    [[nodiscard]] char last() const { return m_last; }
+
     /// Whether what was taken last is part of a number or a word.
     [[nodiscard]] bool inWord() const { return m_inWord; }
 
@@ -132,6 +137,7 @@ private:
             return;
         }
         bool const bare = isBare(byte);
+        m_last = isBlank(byte) ? m_last : byte;
         if (!isBlank(byte) && (!bare || !m_inWord)) {
             m_token = m_here;
             m_tokenOffset = m_offset;
@@ -178,6 +184,7 @@ private:
     Position m_here;
     Position m_token;
     std::array<Position, historySize> m_history;
+    char m_last = '\0';
     bool m_inString = false;
     bool m_escaped = false;
     bool m_inWord = false;

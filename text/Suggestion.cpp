@@ -161,7 +161,8 @@ bool isNear(std::string_view word, std::string_view name)
     auto const words = wordsIn(name);
     return word.size() <= longestWord && name.size() <= longestWord &&
            (areSameWords(word, name) || std::ranges::any_of(words, [&](std::string const& part) {
-                auto const limit = slipsIn(std::min(word.size(), part.size()));
+                // A part says less than the whole, so it must be nearer.
+                auto const limit = std::min(word.size(), part.size()) / 4;
                 return slipsBetween(lowered(word), part, limit) <= limit;
             }));
 }

@@ -13,6 +13,7 @@ enum class Exit {
     Clean = 0,
     Findings = 1,
     Unable = 2,
+    Interrupted = 130,
 };
 
 /// One command of the tool. It keeps what the command line gave it.

@@ -1,6 +1,7 @@
 #include "tools/kiv/Progress.h"
 
 #include "tools/kiv/Console.h"
+#include "tools/kiv/Interrupt.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -69,6 +70,11 @@ void Progress::wipe()
 InputFile openWithProgress(std::string const& path)
 {
     InputFile input = openInput(path);
+    input.source = [source = std::move(input.source)](std::span<char> buffer) {
+        std::size_t const count = source(buffer);
+        throwIfInterrupted();
+        return count;
+    };
     std::size_t const size = sizeOf(input.descriptor);
     if (size < large || isatty(STDOUT_FILENO) != 0 || !redraws(STDERR_FILENO)) {
         return input;

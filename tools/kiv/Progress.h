@@ -39,7 +39,8 @@ private:
 
 /// Opens a file, with a bar on standard error while it is read if somebody may look at it and it
 /// would not get into the way: standard error is a terminal that can redraw a line, standard output
-/// is none, and the file is regular and large. Throws as `openInput` does.
+/// is none, and the file is regular and large. Throws as `openInput` does; the source throws
+/// `Interrupted` as well.
 InputFile openWithProgress(std::string const& path);
 
 } // namespace kiv

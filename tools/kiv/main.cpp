@@ -2,6 +2,8 @@
 #include "text/Printable.h"
 #include "text/Suggestion.h"
 #include "tools/kiv/Command.h"
+#include "tools/kiv/Interrupt.h"
+#include "tools/kiv/OutputFile.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -30,15 +32,17 @@ Commands allCommands()
     return commands;
 }
 
-void declare(commandline::CommandLine& line, Commands const& commands)
+void declare(commandline::CommandLine& line, Commands const& commands, std::string& output)
 {
     line.version("kiv " KIV_VERSION);
-    line.footer("Resources are named as in uris: radio/presets.\n"
-                "Exit codes: 0 clean, 1 findings, 2 cannot do it.\n"
-                "Help and an example for one command: kiv COMMAND --help");
+    line.footer("Resources are named as in uris, radio/presets, or by class, uri or header.\n"
+                "Exit codes: 0 clean, 1 findings, 2 cannot do it, 130 interrupted.\n"
+                "Help and an example for one command: kiv help COMMAND");
     for (auto const& command : commands) {
-        command->declare(line.command(std::string(command->name()), std::string(command->about()),
-                                      "Example: " + std::string(command->example())));
+        auto arguments = line.command(std::string(command->name()), std::string(command->about()),
+                                      "Example: " + std::string(command->example()));
+        command->declare(arguments);
+        arguments.optional("-o,--output", output, "Write to this file, whole or not at all");
     }
 }
 
@@ -59,22 +63,56 @@ void refuseUnknownCommand(int argc, char const* const* argv, Commands const& com
     }
 }
 
-kiv::Exit run(int argc, char const* const* argv, kiv::Console& console)
+/// `kiv help COMMAND` is `kiv COMMAND --help`.
+std::vector<char const*> withHelp(int argc, char const* const* argv)
+{
+    std::vector<char const*> words(argv, argv + argc);
+    if (argc > 1 && std::string_view(words[1]) == "help") {
+        words.erase(words.begin() + 1);
+        words.resize(std::min<std::size_t>(words.size(), 2));
+        words.push_back("--help");
+    }
+    return words;
+}
+
+/// Runs the command with its result going to a file or, if that has no name, to standard output.
+kiv::Exit run(kiv::Command& command, std::string const& path)
+{
+    if (path.empty()) {
+        kiv::Console console{kiv::Output(STDOUT_FILENO), kiv::Style(STDOUT_FILENO)};
+        kiv::Exit const exit = command.run(console);
+        console.output.flush();
+        return exit;
+    }
+    kiv::OutputFile file(path);
+    kiv::Console console{kiv::Output(file.descriptor()), kiv::Style(file.descriptor())};
+    kiv::Exit const exit = command.run(console);
+    console.output.flush();
+    file.keep();
+    return exit;
+}
+
+kiv::Exit run(std::vector<char const*> const& words)
 {
     commandline::CommandLine line(
         "kiv",
         "Looks things up in the service interface, and shows what the library makes of data.");
     Commands const commands = allCommands();
-    declare(line, commands);
-    refuseUnknownCommand(argc, argv, commands);
-    if (auto const text = line.parse(argc, argv)) {
-        console.output.write(*text);
+    std::string output;
+    declare(line, commands, output);
+    int const count = static_cast<int>(words.size());
+    refuseUnknownCommand(count, words.data(), commands);
+    if (auto const text = line.parse(count, words.data())) {
+        kiv::Output shown(STDOUT_FILENO);
+        shown.write(*text);
+        shown.flush();
         return kiv::Exit::Clean;
     }
     auto const called = std::find_if(commands.begin(), commands.end(), [&](auto const& command) {
         return command->name() == line.called();
     });
-    return (*called)->run(console);
+    kiv::noteInterrupts();
+    return run(**called, output);
 }
 
 void complain(std::string const& where, std::string const& what)
@@ -90,10 +128,9 @@ void complain(std::string const& where, std::string const& what)
 int main(int argc, char** argv)
 {
     try {
-        kiv::Console console{kiv::Output(STDOUT_FILENO), kiv::Style(STDOUT_FILENO)};
-        kiv::Exit const exit = run(argc, argv, console);
-        console.output.flush();
-        return static_cast<int>(exit);
+        return static_cast<int>(run(withHelp(argc, argv)));
+    } catch (kiv::Interrupted const&) {
+        return static_cast<int>(kiv::Exit::Interrupted);
     } catch (kiv::Failure const& failure) {
         complain(failure.where(), failure.what());
     } catch (std::bad_alloc const&) {

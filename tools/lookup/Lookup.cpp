@@ -2,8 +2,8 @@
 
 #include "text/Failure.h"
 #include "text/Phrases.h"
+#include "text/Printable.h"
 #include "text/Suggestion.h"
-#include "tools/kiv/Console.h"
 
 #include <algorithm>
 
@@ -20,42 +20,87 @@ std::vector<std::string> allResourceNames()
     return names;
 }
 
-/// The resources, in quotes, that somebody may have meant who left the service out.
-std::vector<std::string> namesWithKey(std::string_view key)
+/// A name without what leads to it or follows it: `radio::Presets` of a header's or a definition's
+/// path and of a class with its namespaces, `radio/presets` of a uri.
+std::string core(std::string_view name)
 {
-    std::vector<std::string> names;
-    for (auto const& resource : catalogue::resources()) {
-        if (resource.resourceKey == key) {
-            names.push_back("'" + nameOf(&resource) + "'");
-        }
+    constexpr std::string_view root = "zel::kiv::common::";
+    constexpr std::string_view folder = "services/";
+    if (name.starts_with(root)) {
+        return std::string(name.substr(root.size()));
     }
-    return names;
+    auto const at = name.rfind(folder);
+    auto const end = name.rfind('.');
+    bool const isPath = at != std::string_view::npos && end != std::string_view::npos &&
+                        (at == 0 || name[at - 1] == '/');
+    if (isPath) {
+        std::string path(name.substr(at + folder.size(), end - at - folder.size()));
+        auto const slash = path.find('/');
+        return slash == std::string::npos ? path : path.replace(slash, 1, "::");
+    }
+    if (name.starts_with('/')) {
+        auto const second = std::min(name.find('/', 1), name.size() - 1);
+        return std::string(name.substr(1, name.find('/', second + 1) - 1));
+    }
+    return std::string(name);
+}
+
+bool isCalled(catalogue::Resource const& resource, std::string_view name)
+{
+    auto const element = classOf(resource) + "::" + std::string(resource.element);
+    return name == nameOf(&resource) || name == classOf(resource) || name == element ||
+           name == resource.resourceKey || name == resource.name || name == resource.element ||
+           name == resource.elementKey ||
+           name == std::string(resource.service) + "::" + std::string(resource.element);
 }
 
 std::string hintFor(std::string_view name)
 {
-    std::vector<std::string> const meant = namesWithKey(name);
-    if (!meant.empty()) {
-        return "; did you mean " + listed(meant, "or") + "?";
+    if (std::ranges::count(services(), name) > 0) {
+        return ", but a service; kiv list " + std::string(name) + " shows its resources";
     }
     std::vector<std::string> const names = allResourceNames();
-    std::vector<std::string_view> const known(names.begin(), names.end());
-    return didYouMean(name, known);
+    std::vector<std::string_view> known = services();
+    known.insert(known.end(), names.begin(), names.end());
+    std::string hint = didYouMean(name, known);
+    if (hint.empty()) {
+        known.clear();
+        for (auto const& resource : catalogue::resources()) {
+            known.insert(known.end(), {resource.name, resource.element});
+        }
+        hint = didYouMean(name, known);
+    }
+    return hint + " (kiv list shows all services, kiv list SERVICE its resources)";
 }
 
 } // namespace
 
-catalogue::Resource const& resourceNamed(std::string_view name)
+std::vector<catalogue::Resource const*> resourcesCalled(std::string_view name)
 {
-    std::size_t const slash = name.find('/');
-    if (slash != std::string_view::npos) {
-        auto const* const resource = catalogue::find(name.substr(0, slash), name.substr(slash + 1));
-        if (resource != nullptr) {
-            return *resource;
+    std::string const wanted = core(name);
+    std::vector<catalogue::Resource const*> found;
+    for (auto const& resource : catalogue::resources()) {
+        if (isCalled(resource, wanted)) {
+            found.push_back(&resource);
         }
     }
-    throw Failure("no resource '" + std::string(name) + "'" + hintFor(name) +
-                  " (kiv list shows all services, kiv list SERVICE its resources)");
+    return found;
+}
+
+catalogue::Resource const& resourceNamed(std::string_view name)
+{
+    auto const found = resourcesCalled(name);
+    if (found.size() == 1) {
+        return *found.front();
+    }
+    if (found.empty()) {
+        throw Failure("no resource " + inQuotes(name) + hintFor(name));
+    }
+    std::vector<std::string> names;
+    for (auto const* resource : found) {
+        names.push_back("'" + nameOf(resource) + "'");
+    }
+    throw Failure(inQuotes(name) + " may be " + listed(names, "or") + "; say which");
 }
 
 std::vector<catalogue::Resource const*> resourcesOf(std::string_view service)
@@ -67,8 +112,8 @@ std::vector<catalogue::Resource const*> resourcesOf(std::string_view service)
         }
     }
     if (found.empty()) {
-        throw Failure("no service '" + std::string(service) + "'" +
-                      didYouMean(service, services()) + " (kiv list shows all services)");
+        throw Failure("no service " + inQuotes(service) + didYouMean(service, services()) +
+                      " (kiv list shows all services)");
     }
     return found;
 }
@@ -90,6 +135,16 @@ std::string nameOf(catalogue::Resource const* resource)
         return "external";
     }
     return std::string(resource->service) + "/" + std::string(resource->resourceKey);
+}
+
+std::string classOf(catalogue::Resource const& resource)
+{
+    return std::string(resource.service) + "::" + std::string(resource.name);
+}
+
+std::string headerOf(catalogue::Resource const& resource)
+{
+    return "services/" + std::string(resource.service) + "/" + std::string(resource.name) + ".h";
 }
 
 std::string nameOf(FieldOf const& place)

@@ -15,8 +15,12 @@ struct FieldOf {
     catalogue::Field const* field;
 };
 
-/// The resource of that name, `radio/presets`. Throws `Failure` with the nearest names if there is
-/// none.
+/// The resources that may be called so: by name as in uris, `radio/presets`, by a uri, by class or
+/// element class with or without namespaces, by the path of header or definition.
+std::vector<catalogue::Resource const*> resourcesCalled(std::string_view name);
+
+/// The one resource that is called so. Throws `Failure` with the candidates if there are several,
+/// with the nearest names if there is none.
 catalogue::Resource const& resourceNamed(std::string_view name);
 
 /// The resources of that service. Throws `Failure` with the nearest names if there are none.
@@ -28,6 +32,9 @@ std::vector<std::string_view> services();
 /// The name of a resource as uris spell it, `radio/presets`; what is outside the interface is
 /// `external`.
 std::string nameOf(catalogue::Resource const* resource);
+
+std::string classOf(catalogue::Resource const& resource);  ///< `radio::Presets`
+std::string headerOf(catalogue::Resource const& resource); ///< `services/radio/Presets.h`
 
 /// The field with its resource, `radio/presets.station`.
 std::string nameOf(FieldOf const& place);

@@ -1,10 +1,14 @@
+#include "json/JsonWriter.h"
+#include "json/Make.h"
 #include "text/Failure.h"
 #include "text/Phrases.h"
+#include "text/Printable.h"
 #include "text/Suggestion.h"
 #include "tools/kiv/Command.h"
 #include "tools/lookup/Lookup.h"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
 
 namespace kiv {
@@ -20,6 +24,78 @@ std::string lowered(std::string_view text)
     return result;
 }
 
+/// Something that can be found, and by what.
+struct Candidate {
+    std::string name;
+    std::string what; ///< `service`, `resource`, or the kind of a field
+    std::string about;
+    std::string_view told;                ///< what is said of it
+    std::vector<std::string_view> names;  ///< found by a part
+    std::vector<std::string_view> wholes; ///< found in full only: every getter begins with `get`
+};
+
+Candidate candidateOf(catalogue::Resource const& resource, catalogue::Field const& field)
+{
+    Candidate candidate{nameOf(FieldOf{&resource, &field}),
+                        std::string(wordOf(field.kind)),
+                        listed(targetNames(field), "or"),
+                        field.note,
+                        {field.key},
+                        {wordOf(field.kind)}};
+    for (auto const& accessor : field.accessors) {
+        candidate.wholes.push_back(accessor.name);
+    }
+    return candidate;
+}
+
+std::vector<Candidate> candidates()
+{
+    std::vector<Candidate> all;
+    for (auto const& service : catalogue::services()) {
+        all.push_back({std::string(service.name),
+                       "service",
+                       std::string(service.about),
+                       service.about,
+                       {service.name},
+                       {}});
+    }
+    for (auto const& resource : catalogue::resources()) {
+        all.push_back({nameOf(&resource),
+                       "resource",
+                       std::string(resource.about),
+                       resource.about,
+                       {resource.resourceKey, resource.name, resource.element},
+                       {}});
+    }
+    for (auto const& resource : catalogue::resources()) {
+        for (auto const& field : resource.fields) {
+            all.push_back(candidateOf(resource, field));
+        }
+    }
+    return all;
+}
+
+bool has(std::string_view text, std::string const& word)
+{
+    return lowered(text).find(word) != std::string::npos;
+}
+
+/// `radio` finds the service, and not each of its resources; `radio/` finds those.
+bool isNamed(Candidate const& candidate, std::string const& word)
+{
+    return std::ranges::any_of(candidate.names,
+                               [&](std::string_view name) { return has(name, word); }) ||
+           (candidate.what == "resource" && word.find('/') != std::string::npos &&
+            has(candidate.name, word)) ||
+           std::ranges::any_of(candidate.wholes,
+                               [&](std::string_view name) { return lowered(name) == word; });
+}
+
+/// How something was found, the surest first.
+enum class Way { Name, Text, Near };
+constexpr std::array<std::string_view, 3> wayWords{"name", "text", "near"};
+using Found = std::array<std::vector<Candidate>, wayWords.size()>;
+
 class FindCommand : public Command {
 public:
     [[nodiscard]] std::string_view name() const override { return "find"; }
@@ -33,113 +109,79 @@ public:
     {
         arguments.required("WORD", m_word,
                            "A part of a service, resource, class or key, or of what is said of it, "
-                           "in any case; or a kind of field in full, such as polymorphic or "
-                           "'element list'");
+                           "in any case; an accessor, a header or a uri; or a kind of field in "
+                           "full, such as polymorphic or 'element list'");
+        arguments.flag("--json", m_json, "Print it as JSON");
     }
 
     Exit run(Console& console) override
     {
-        m_lowered = lowered(m_word);
-        Table table;
-        addServices(table);
-        addResources(table);
-        addFields(table);
-        addTexts(table);
-        if (table.empty()) {
-            throw Failure("nothing has '" + m_word + "' in its name or in its text" +
-                          didYouMean(m_word, allKeys()));
+        Found const found = search();
+        if (std::ranges::all_of(found, [](auto const& each) { return each.empty(); })) {
+            throw Failure("nothing has " + inQuotes(m_word) +
+                          " in its name or in its text, nor a name like it");
         }
-        table.print(console);
+        m_json ? writeJson(console, found) : print(console, found);
         return Exit::Clean;
     }
 
 private:
-    void addServices(Table& table) const
+    [[nodiscard]] Found search() const
     {
-        for (auto const& service : catalogue::services()) {
-            if (matches(service.name)) {
-                table.add({std::string(service.name), "service", std::string(service.about)});
+        Found found;
+        std::string const word = lowered(m_word);
+        auto const called = resourcesCalled(m_word);
+        auto const isCalled = [&](Candidate const& candidate) {
+            return std::ranges::any_of(
+                called, [&](auto const* resource) { return nameOf(resource) == candidate.name; });
+        };
+        auto const add = [&](Way way, Candidate& candidate) {
+            found.at(static_cast<std::size_t>(way)).push_back(std::move(candidate));
+        };
+        for (auto& candidate : candidates()) {
+            if (isCalled(candidate) || isNamed(candidate, word)) {
+                add(Way::Name, candidate);
+            } else if (has(candidate.told, word)) {
+                candidate.about = candidate.told;
+                add(Way::Text, candidate);
+            } else if (isNear(m_word, candidate.names.front())) {
+                add(Way::Near, candidate);
             }
         }
+        return found;
     }
 
-    void addResources(Table& table) const
+    static void print(Console& console, Found const& found)
     {
-        for (auto const& resource : catalogue::resources()) {
-            if (isNamed(resource)) {
-                table.add({nameOf(&resource), "resource", std::string(resource.about)});
+        Table table;
+        for (auto const& way : found) {
+            for (auto const& each : way) {
+                table.add({each.name, each.what, each.about});
             }
         }
+        table.print(console);
     }
 
-    void addFields(Table& table) const
+    static void writeJson(Console& console, Found const& found)
     {
-        for (auto const& resource : catalogue::resources()) {
-            for (auto const& field : resource.fields) {
-                if (isNamed(field)) {
-                    table.add({nameOf(FieldOf{&resource, &field}), std::string(wordOf(field.kind)),
-                               listed(targetNames(field), "or")});
-                }
+        auto const writer = json::makeWriter(console.output, json::Layout::Indented);
+        writer->startArray();
+        for (std::size_t way = 0; way < found.size(); ++way) {
+            for (auto const& each : found.at(way)) {
+                writer->entry(json::Members()
+                                  .with("about", each.about)
+                                  .with("by", wayWords.at(way))
+                                  .with("name", each.name)
+                                  .with("what", each.what)
+                                  .take()
+                                  .get());
             }
         }
-    }
-
-    /// What is not named so, but is told of with that word.
-    void addTexts(Table& table) const
-    {
-        for (auto const& service : catalogue::services()) {
-            if (!matches(service.name) && matches(service.about)) {
-                table.add({std::string(service.name), "service", std::string(service.about)});
-            }
-        }
-        for (auto const& resource : catalogue::resources()) {
-            if (!isNamed(resource) && matches(resource.about)) {
-                table.add({nameOf(&resource), "resource", std::string(resource.about)});
-            }
-            for (auto const& field : resource.fields) {
-                if (!isNamed(field) && matches(field.note)) {
-                    table.add({nameOf(FieldOf{&resource, &field}), std::string(wordOf(field.kind)),
-                               std::string(field.note)});
-                }
-            }
-        }
-    }
-
-    [[nodiscard]] bool isNamed(catalogue::Resource const& resource) const
-    {
-        // The service is part of the name only for a word that asks for it, or else `radio` would
-        // find each of its resources.
-        bool const whole = m_lowered.find('/') != std::string::npos;
-        return matches(whole ? nameOf(&resource) : std::string(resource.resourceKey)) ||
-               matches(resource.name) || matches(resource.element);
-    }
-
-    [[nodiscard]] bool isNamed(catalogue::Field const& field) const
-    {
-        return matches(field.key) || wordOf(field.kind) == m_lowered;
-    }
-
-    [[nodiscard]] bool matches(std::string_view name) const
-    {
-        return lowered(name).find(m_lowered) != std::string::npos;
-    }
-
-    static std::vector<std::string_view> allKeys()
-    {
-        std::vector<std::string_view> keys;
-        for (auto const& resource : catalogue::resources()) {
-            keys.push_back(resource.resourceKey);
-            for (auto const& field : resource.fields) {
-                keys.push_back(field.key);
-            }
-        }
-        std::sort(keys.begin(), keys.end());
-        keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
-        return keys;
+        writer->endArray();
     }
 
     std::string m_word;
-    std::string m_lowered;
+    bool m_json = false;
 };
 
 } // namespace

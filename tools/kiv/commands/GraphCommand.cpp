@@ -2,6 +2,7 @@
 #include "tools/lookup/Links.h"
 #include "tools/lookup/Lookup.h"
 
+#include <algorithm>
 #include <set>
 
 namespace kiv {
@@ -103,11 +104,11 @@ private:
             for (auto const& resource : catalogue::resources()) {
                 resources.insert(&resource);
             }
-        } else if (m_name.find('/') != std::string::npos) {
-            resources.insert(&resourceNamed(m_name));
-        } else {
+        } else if (std::ranges::count(services(), m_name) > 0) {
             auto const members = resourcesOf(m_name);
             resources.insert(members.begin(), members.end());
+        } else {
+            resources.insert(&resourceNamed(m_name));
         }
         return resources;
     }

@@ -1,3 +1,5 @@
+#include "json/JsonWriter.h"
+#include "json/Make.h"
 #include "text/Phrases.h"
 #include "tools/kiv/Command.h"
 #include "tools/lookup/Lookup.h"
@@ -19,12 +21,15 @@ public:
     {
         arguments.optional("SERVICE", m_service, "The service whose resources to list");
         arguments.flag("--names", m_names, "Only the names of the resources, one to a line");
+        arguments.flag("--json", m_json, "Print it as JSON");
     }
 
     Exit run(Console& console) override
     {
         if (m_names) {
             listNames(console);
+        } else if (m_json) {
+            writeJson(console);
         } else {
             m_service.empty() ? listServices(console) : listResources(console);
         }
@@ -78,6 +83,33 @@ private:
                              counted(fieldsOf(members), "field") + "\n");
     }
 
+    void writeJson(Console& console) const
+    {
+        auto const writer = json::makeWriter(console.output, json::Layout::Indented);
+        writer->startArray();
+        if (m_service.empty()) {
+            for (auto const service : services()) {
+                auto const members = resourcesOf(service);
+                writer->entry(json::Members()
+                                  .with("fields", json::number(fieldsOf(members)))
+                                  .with("resources", json::number(members.size()))
+                                  .with("service", service)
+                                  .take()
+                                  .get());
+            }
+        } else {
+            for (auto const* resource : resourcesOf(m_service)) {
+                writer->entry(json::Members()
+                                  .with("about", resource->about)
+                                  .with("fields", json::number(resource->fields.size()))
+                                  .with("resource", nameOf(resource))
+                                  .take()
+                                  .get());
+            }
+        }
+        writer->endArray();
+    }
+
     static std::size_t fieldsOf(std::vector<catalogue::Resource const*> const& resources)
     {
         std::size_t fields = 0;
@@ -95,6 +127,7 @@ private:
 
     std::string m_service;
     bool m_names = false;
+    bool m_json = false;
 };
 
 } // namespace

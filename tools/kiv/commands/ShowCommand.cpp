@@ -22,10 +22,11 @@ std::unique_ptr<data::Value> fieldValue(catalogue::Field const& field)
     }
     auto accessors = std::make_unique<data::Array>();
     for (auto const& accessor : field.accessors) {
-        auto entry = std::make_unique<data::Object>();
-        entry->setNew("name", json::text(accessor.name).release());
-        entry->setNew("signature", json::text(accessor.signature).release());
-        accessors->pushNew(entry.release());
+        accessors->pushNew(json::Members()
+                               .with("name", accessor.name)
+                               .with("signature", accessor.signature)
+                               .take()
+                               .release());
     }
     auto value = std::make_unique<data::Object>();
     value->setNew("accessors", accessors.release());

@@ -2,7 +2,6 @@
 
 #include "json/Make.h"
 #include "text/Phrases.h"
-#include "tools/kiv/Console.h"
 #include "tools/lookup/Lookup.h"
 
 #include <algorithm>
@@ -19,24 +18,7 @@ using catalogue::Kind;
 using catalogue::Resource;
 using json::ValuePointer;
 
-/// A schema that is being put together.
-class Schema {
-public:
-    Schema& with(char const* keyword, ValuePointer value)
-    {
-        m_object->setNew(keyword, value.release());
-        return *this;
-    }
-    Schema& with(char const* keyword, std::string_view value)
-    {
-        return with(keyword, json::text(value));
-    }
-
-    ValuePointer take() { return std::move(m_object); }
-
-private:
-    std::unique_ptr<data::Object> m_object = std::make_unique<data::Object>();
-};
+using Schema = json::Members;
 
 constexpr std::string_view dialect = "https://json-schema.org/draft/2020-12/schema";
 /// What the library takes for service and resource lies between the first character and the third
