@@ -47,10 +47,9 @@ std::string core(std::string_view name)
 
 bool isCalled(catalogue::Resource const& resource, std::string_view name)
 {
-    auto const element = classOf(resource) + "::" + std::string(resource.element);
-    return name == nameOf(&resource) || name == classOf(resource) || name == element ||
-           name == resource.resourceKey || name == resource.name || name == resource.element ||
-           name == resource.elementKey ||
+    return name == nameOf(&resource) || name == resource.resourceClass ||
+           name == resource.elementClass || name == resource.resourceKey || name == resource.name ||
+           name == resource.element || name == resource.elementKey ||
            name == std::string(resource.service) + "::" + std::string(resource.element);
 }
 
@@ -135,16 +134,6 @@ std::string nameOf(catalogue::Resource const* resource)
         return "external";
     }
     return std::string(resource->service) + "/" + std::string(resource->resourceKey);
-}
-
-std::string classOf(catalogue::Resource const& resource)
-{
-    return std::string(resource.service) + "::" + std::string(resource.name);
-}
-
-std::string headerOf(catalogue::Resource const& resource)
-{
-    return "services/" + std::string(resource.service) + "/" + std::string(resource.name) + ".h";
 }
 
 std::string nameOf(FieldOf const& place)

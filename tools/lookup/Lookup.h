@@ -33,9 +33,6 @@ std::vector<std::string_view> services();
 /// `external`.
 std::string nameOf(catalogue::Resource const* resource);
 
-std::string classOf(catalogue::Resource const& resource);  ///< `radio::Presets`
-std::string headerOf(catalogue::Resource const& resource); ///< `services/radio/Presets.h`
-
 /// The field with its resource, `radio/presets.station`.
 std::string nameOf(FieldOf const& place);
 

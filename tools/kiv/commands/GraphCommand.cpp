@@ -11,7 +11,7 @@ namespace {
 
 using catalogue::Resource;
 
-std::string inQuotes(std::string_view text)
+std::string dotQuoted(std::string_view text)
 {
     return '"' + std::string(text) + '"'; // names hold neither quotation marks nor backslashes
 }
@@ -40,12 +40,12 @@ void printService(std::string_view service, std::set<Resource const*> const& nod
     std::string lines;
     for (auto const* resource : nodes) {
         if (resource->service == service) {
-            lines += "    " + inQuotes(nameOf(resource)) + "\n";
+            lines += "    " + dotQuoted(nameOf(resource)) + "\n";
         }
     }
     if (!lines.empty()) {
-        output.write("  subgraph " + inQuotes("cluster_" + std::string(service)) +
-                     " {\n    label=" + inQuotes(service) + "\n" + lines + "  }\n");
+        output.write("  subgraph " + dotQuoted("cluster_" + std::string(service)) +
+                     " {\n    label=" + dotQuoted(service) + "\n" + lines + "  }\n");
     }
 }
 
@@ -59,8 +59,9 @@ void printGraph(std::set<Resource const*> const& nodes, Links const& links, Outp
         printService(service, nodes, output);
     }
     for (auto const& [ends, fields] : links) {
-        output.write("  " + inQuotes(nameOf(ends.first)) + " -> " + inQuotes(nameOf(ends.second)) +
-                     " [label=" + inQuotes(labelOf(fields)) + "]\n");
+        output.write("  " + dotQuoted(nameOf(ends.first)) + " -> " +
+                     dotQuoted(nameOf(ends.second)) + " [label=" + dotQuoted(labelOf(fields)) +
+                     "]\n");
     }
     output.write("}\n");
 }

@@ -91,32 +91,60 @@ Schema listOf(Schema entry)
 
 ValuePointer uriText(std::string_view pattern)
 {
-    return Schema().with("type", "string").with("pattern", pattern).take();
+    return json::Members().with("type", "string").with("pattern", pattern).take();
 }
 
-/// The uri decides which target an object is read as, so it must be there.
-ValuePointer targetObject(Resource const* target, std::string_view pattern)
+ValuePointer uriProperty(std::string_view pattern)
 {
-    auto properties = std::make_unique<data::Object>();
-    properties->setNew("uri", uriText(pattern).release());
-    return referenceTo(target)
-        .with("properties", std::move(properties))
-        .with("required", json::array(json::text("uri")))
-        .take();
+    return json::Members().with("uri", uriText(pattern)).take();
 }
 
+std::string patternOf(Resource const& target)
+{
+    return "^/" + nameOf(&target) + "/";
+}
+
+/// Which target an object is read as: the first that its uri names, or else what is tried last.
+ValuePointer dispatch(std::span<Resource const* const> targets, bool hasLastResort)
+{
+    auto const end =
+        std::ranges::find_if(targets, [](Resource const* target) { return !target->isExternal(); });
+    if (end == targets.end()) {
+        return hasLastResort ? referenceTo(&catalogue::external()).take() : nullptr;
+    }
+    Schema isNamed;
+    isNamed.with("type", "object")
+        .with("properties", uriProperty(patternOf(**end)))
+        .with("required", json::array(json::text("uri")));
+    Schema schema;
+    schema.with("if", isNamed.take()).with("then", referenceTo(*end).take());
+    auto const rest = targets.subspan(static_cast<std::size_t>(end - targets.begin()) + 1);
+    if (ValuePointer otherwise = dispatch(rest, hasLastResort)) {
+        schema.with("else", std::move(otherwise));
+    }
+    return schema.take();
+}
+
+/// A text or an object, whose uri must name a target. What is wrong is said of the uri first: a
+/// choice between targets would leave a reader alone with what is wrong in each.
 Schema polymorphic(catalogue::Field const& field)
 {
-    auto choices = std::make_unique<data::Array>();
-    choices->pushNew(typed("null").release());
+    std::string names;
     for (auto const* target : field.targets) {
-        std::string const pattern =
-            target->isExternal() ? std::string(anyUri) : "^/" + nameOf(target) + "/";
-        choices->pushNew(uriText(pattern).release());
-        choices->pushNew(targetObject(target, pattern).release());
+        if (!target->isExternal()) {
+            names += (names.empty() ? "" : "|") + nameOf(target);
+        }
     }
+    std::string const pattern = field.hasLastResort() ? std::string(anyUri) : "^/(" + names + ")/";
+    Schema isObject;
+    isObject.with("if", typed("object"))
+        .with("then", dispatch(field.targets, field.hasLastResort()));
     Schema schema;
-    schema.with("anyOf", std::move(choices));
+    schema.with("type", json::array(json::text("object"), json::text("string"), json::text("null")))
+        .with("pattern", pattern)
+        .with("properties", uriProperty(pattern))
+        .with("required", json::array(json::text("uri")))
+        .with("allOf", json::array(isObject.take()));
     return schema;
 }
 
