@@ -6,9 +6,7 @@
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/writer.h>
 
-#include <array>
 #include <cmath>
-#include <cstdio>
 #include <string>
 #include <string_view>
 
@@ -63,9 +61,11 @@ public:
         if (code == 0) {
             m_output.write(m_held);
         } else {
-            std::array<char, 8> escape{};
-            static_cast<void>(std::snprintf(escape.data(), escape.size(), "\\u%04x", code));
-            m_output.write(escape.data());
+            constexpr std::string_view digits = "0123456789abcdef";
+            m_output.write("\\u");
+            for (unsigned const shift : {12U, 8U, 4U, 0U}) {
+                m_output.put(digits[(code >> shift) & 0xFU]);
+            }
         }
         m_held.clear();
     }

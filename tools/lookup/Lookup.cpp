@@ -67,6 +67,8 @@ std::string hintFor(std::string_view name)
         for (auto const& resource : catalogue::resources()) {
             known.insert(known.end(), {resource.name, resource.element});
         }
+        std::ranges::sort(known);
+        known.erase(std::ranges::unique(known).begin(), known.end());
         hint = didYouMean(name, known);
     }
     return hint + " (kiv list shows all services, kiv list SERVICE its resources)";
