@@ -4,10 +4,10 @@
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help demo build test lint format sanitize arm64 figures bench mutants fuzz package reference ci clean
+.PHONY: help demo build test lint format sanitize arm64 figures bench mutants fuzz platform-check package reference ci clean
 
 help: ## show this list
-	@awk -F ':.*## ' '/^[a-z0-9]+:.*## / { printf "  make %-10s %s\n", $$1, $$2 }' Makefile
+	@awk -F ':.*## ' '/^[a-z0-9-]+:.*## / { printf "  make %-14s %s\n", $$1, $$2 }' Makefile
 
 build: ## build library and tools (build/release)
 	@scripts/install-packages build
@@ -60,6 +60,10 @@ mutants: ## plant faults one by one and name the test that finds each (MUTANTS=p
 fuzz: ## a bounded fuzz run (SECONDS_EACH=60)
 	@scripts/install-packages build fuzz
 	@scripts/fuzz $(SECONDS_EACH)
+
+platform-check: ## whether a platform fits, and how (ZEL_KIV_PLATFORM=<prefix>, JSON=1)
+	@scripts/install-packages build
+	@scripts/platform-check $(if $(JSON),--json) "$(ZEL_KIV_PLATFORM)" -j $(JOBS)
 
 package: ## Debian packages, and a consumer built against them
 	@scripts/install-packages build arm64 package

@@ -49,6 +49,12 @@ install(FILES ${PROJECT_BINARY_DIR}/cmake/zel-kiv-services.pc
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
     COMPONENT development)
 
+# The check of a platform is built by whoever has one.
+set(check_folder ${CMAKE_INSTALL_DATADIR}/zel-kiv/platform-check)
+install(DIRECTORY platform-check/ DESTINATION ${check_folder} COMPONENT development
+    USE_SOURCE_PERMISSIONS)
+install(FILES cmake/FindZelKivPlatform.cmake DESTINATION ${check_folder} COMPONENT development)
+
 if(NOT ZEL_KIV_PLATFORM)
     add_dependencies(shipped dataformats kivcommon)
     install(TARGETS values dataformats kivcommon

@@ -1,0 +1,6 @@
+#include "Readings.h"
+
+void look(check::Report& report)
+{
+    check::readings(report, "a null pointer", nullptr);
+}
