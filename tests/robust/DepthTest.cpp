@@ -43,9 +43,10 @@ void onStack(std::size_t size, Work work)
     pthread_attr_destroy(&attributes);
 }
 
-/// A field and the uri of the element that holds it.
+/// A field and the resource whose element holds it.
 struct Step {
-    char const* uri;
+    char const* service;
+    char const* resource;
     char const* key;
     bool isList;
 };
@@ -57,7 +58,8 @@ std::unique_ptr<Value> chainOf(std::vector<Step> const& way)
     for (std::size_t level = depth; level-- > 0;) {
         Step const& step = way[level % way.size()];
         auto object = std::make_unique<Object>();
-        object->setNew("uri", new String(step.uri));
+        object->setNew("uri",
+                       new String(std::string("/") + step.service + '/' + step.resource + "/7"));
         if (inner != nullptr && step.isList) {
             auto array = std::make_unique<Array>();
             array->pushNew(inner.release());
@@ -74,18 +76,16 @@ std::unique_ptr<Value> chainOf(std::vector<Step> const& way)
 TEST(Depth, IsBorneByElementsListsAndPolymorphicFields)
 {
     std::vector<Step> const ways[] = {
-        {{"/places/locations/7", "parent", false}},
-        {{"/radio/stations/7", "relatedShows", true}},
-        {{"/places/results/7", "reference", false}, {"/places/searches/7", "results", true}},
+        {{"places", "locations", "parent", false}},
+        {{"radio", "stations", "relatedShows", true}},
+        {{"places", "results", "reference", false}, {"places", "searches", "results", true}},
     };
     for (std::vector<Step> const& way : ways) {
-        SCOPED_TRACE(way.front().uri);
+        SCOPED_TRACE(way.front().key);
         std::size_t const before = allocations::alive();
         onStack(stackForTrees, [&] {
-            std::string const name = way.front().uri;
-            auto const* const resource = zel::kiv::catalogue::find(
-                name.substr(1, name.find('/', 1) - 1),
-                name.substr(name.find('/', 1) + 1, name.rfind('/') - name.find('/', 1) - 1));
+            auto const* const resource =
+                zel::kiv::catalogue::find(way.front().service, way.front().resource);
             auto const chain = chainOf(way);
             std::unique_ptr<Value> form;
             onStack(stackSize, [&] {
