@@ -121,8 +121,9 @@ void Reader::readNotes(Entry const& entry)
             if (++wrong <= mostSuggestions) {
                 known.assign(m_definition.keys.begin(), m_definition.keys.end());
             }
+            // A key that is refused is a name here too, with whatever bytes it has.
             fail(row.place, "a note on " + shown + ", which is no key of this element" +
-                                kiv::didYouMean(row.key, known));
+                                printable(kiv::didYouMean(row.key, known)));
         }
         auto note = readProse(
             row, {"the note on " + shown, "it says in a sentence what the field is", longestNote},
