@@ -1,148 +1,116 @@
 import assert from 'node:assert/strict';
-import { execFileSync } from 'node:child_process';
-import { mkdtempSync, rmSync, writeFileSync } from 'node:fs';
-import { tmpdir } from 'node:os';
-import { join } from 'node:path';
-import { after, before, test } from 'node:test';
-import { launch, openPage } from './browser.mjs';
+import { createRequire } from 'node:module';
+import { test } from 'node:test';
+import { onPage, pages } from './browser.mjs';
 
-let browser;
-before(async () => { browser = await launch(); });
-after(() => browser.close());
+const all = (text, pattern) => [...text.matchAll(pattern)].map((match) => match[1]);
 
-/** A test that runs on a page of its own; the page must not complain or leave the disk. */
-function onPage(name, place, options, check) {
-  test(name, async () => {
-    const { page, faults } = await openPage(browser, place, options);
-    await check(page);
-    await page.context().close();
-    assert.deepEqual(faults, []);
-  });
-}
-
-const hash = (page) => page.evaluate(() => decodeURIComponent(location.hash));
-const found = (page) => page.locator('#results strong').allTextContents();
-
-async function type(page, text) {
-  await page.keyboard.press('/');
-  await page.keyboard.type(text);
-}
-
-function isInView(locator) {
-  return locator.evaluate((element) => {
-    const box = element.getBoundingClientRect();
-    const bar = document.querySelector('.bar').getBoundingClientRect();
-    const top = bar.width < innerWidth ? 0 : bar.bottom;
-    return box.height > 0 && box.top >= top - 1 && box.top < innerHeight;
-  });
-}
-
-onPage('without script all is there, and every link leads somewhere', '#radio/presets',
-  { javaScriptEnabled: false }, async (page) => {
-    const counts = await page.evaluate(() => ['.service', 'article', '.fields tbody tr']
-      .map((selector) => document.querySelectorAll(selector).length));
-    assert.deepEqual(counts, [32, 181, 1669]);
-    const [broken, twice] = await page.evaluate(() => {
-      const ids = [...document.querySelectorAll('[id]')].map((each) => each.id);
-      const known = new Set(ids);
-      const links = [...document.querySelectorAll('a')]
-        .map((link) => link.getAttribute('href') || link.getAttribute('xlink:href'))
-        .filter((href) => href !== null);
-      return [links.filter((href) => !known.has(href.slice(1))),
-        ids.filter((id, at) => ids.indexOf(id) !== at)];
-    });
-    assert.deepEqual([broken, twice], [[], []]);
-    assert.ok(await isInView(page.locator('[id="radio/presets"] h3')));
-    await page.locator('[id="radio/presets/station"] a', { hasText: 'radio/stations' }).click();
-    assert.equal(await hash(page), '#radio/stations');
-    assert.ok(await isInView(page.locator('[id="radio/stations"] h3')));
-    assert.ok(await page.locator('#query').isHidden());
-  });
-
-onPage('search finds a key, and Enter leads there', '', {}, async (page) => {
-  await type(page, 'restartsegem');
-  assert.deepEqual(await found(page), ['restartSegement']);
-  await page.keyboard.press('Enter');
-  assert.equal(await hash(page), '#radio/players/restartSegement');
-  const row = page.locator('[id="radio/players/restartSegement"]');
-  assert.ok(await isInView(row));
-  assert.ok(await row.locator('a').first().evaluate((link) => link === document.activeElement));
+test('every link leads somewhere, and no place is there twice', () => {
+  const ids = new Map([...pages].map(([name, text]) => [name, all(text, / id="([^"]*)"/g)]));
+  const twice = [...ids].flatMap(([name, list]) =>
+    list.filter((id, at) => list.indexOf(id) !== at).map((id) => `${name}#${id}`));
+  const broken = [...pages].flatMap(([name, text]) => all(text, / (?:xlink:)?href="([^"]*)"/g)
+    .filter((href) => {
+      const [file, id] = href.split('#');
+      return file.endsWith('.html') || file === '' ? !ids.has(file || name) ||
+        (id !== undefined && !ids.get(file || name).includes(id)) : !/^(data:,|\w+\.css)$/.test(href);
+    }).map((href) => `${name}: ${href}`));
+  assert.deepEqual([twice, broken], [[], []]);
+  const own = [...pages.values()].join('').match(/<tr id=[^>]*><th scope="row">/g).length;
+  assert.equal(pages.size, 4 + 32 + 181);
+  assert.equal(own, 1669 + 3 + 11); // those of each resource, those of the frame, and the kinds
 });
 
-onPage('search goes by class, path, accessor and kind, and tells what is near', '', {},
+onPage('without script a page is whole', 'radio.presets.html', { javaScriptEnabled: false },
   async (page) => {
-    const cases = [
-      ['radio::Presets', 'presets'],
-      ['/radio/presets/', 'presets'],
-      ['radio/presets.station', 'station'],
-      ['isRestartSegementSet()', 'restartSegement'],
-      ['polymorphic', 'polymorphic'],
-      ['radio', 'radio'],
-      ['gearboxOilTemperature', 'gearboxOilTemperatur'],
-      ['restartSegment', 'restartSegement'],
-    ];
-    for (const [text, first] of cases) {
-      await page.locator('#query').fill(text);
-      assert.equal((await found(page))[0], first, text);
+    await page.locator('#station td a', { hasText: 'radio/stations' }).click();
+    assert.ok(await page.locator('h1', { hasText: 'Stations' }).isVisible());
+    assert.ok(await page.locator('#search-text').isHidden());
+  });
+
+onPage('an address of before leads on, and one that names nothing says so', 'index.html', {},
+  async (page, go) => {
+    const moves = [['#radio', 'radio.html'], ['#radio/presets', 'radio.presets.html'],
+      ['#radio/presets/station', 'radio.presets.html#station'],
+      ['#kinds/string-list', 'kinds.html#string-list'], ['#silence', 'silence.html']];
+    for (const [from, to] of moves) {
+      await go('kinds.html');
+      await go('index.html' + from);
+      await page.waitForURL('**/' + to);
     }
-    assert.match(await page.locator('.note').textContent(), /letter for letter/);
-    await page.locator('#query').fill('<img src=x onerror=alert(1)>');
-    assert.match(await page.locator('.note').textContent(), /Nothing is called “<img/);
+    await go('radio.presets.html#statoin');
+    const notice = page.locator('#page-notice');
+    assert.match(await notice.textContent(), /no “statoin” in radio\/presets\. Near it: station/);
+    await notice.getByRole('link').click();
+    await page.waitForURL('**/radio.presets.html#station');
+    assert.match(await page.locator('.path').innerText(), /radio\s*presets\s*station/);
+    await go('radio.presets.html#uri');
+    assert.ok(await page.locator('#uri').isVisible());
   });
 
-onPage('the keyboard is enough', '', {}, async (page) => {
-  await type(page, 'station');
-  const selected = () => page.locator('#results [aria-selected="true"]').textContent();
-  const first = await selected();
-  await page.keyboard.press('ArrowDown');
-  assert.notEqual(await selected(), first);
-  await page.keyboard.press('ArrowUp');
-  await page.keyboard.press('ArrowUp');
-  assert.equal(await selected(), await page.locator('#results li').last().textContent());
-  await page.keyboard.press('Escape');
-  assert.ok(await page.locator('.results').isHidden());
-  await page.keyboard.press('Escape');
-  assert.equal(await page.locator('#query').inputValue(), '');
+onPage('back leads to where one was', 'places.locations.html', {}, async (page) => {
+  const link = page.locator('.own td li a').last();
+  await link.scrollIntoViewIfNeeded();
+  const before = await page.evaluate(() => scrollY);
+  await link.click();
+  await page.waitForURL(/html$/);
+  await page.goBack();
+  await page.waitForFunction((wanted) => Math.abs(scrollY - wanted) < 2, before);
+  await page.locator('.skip').focus();
+  await page.keyboard.press('Enter');
+  assert.ok(await page.locator('h1').isVisible());
 });
 
-onPage('a link leads from presets to stations, and back leads back', '#radio/presets', {},
-  async (page) => {
-    await page.locator('[id="radio/presets/station"] td a', { hasText: 'radio/stations' }).click();
-    assert.ok(await isInView(page.locator('[id="radio/stations"] h3')));
-    await page.locator('#radio .node a', { hasText: 'entertainmentSources' }).click();
-    assert.ok(await page.locator('#sourcemanager > h2').isVisible());
-    assert.ok(!(await page.locator('#radio > h2').isVisible()));
-    await page.goBack();
-    await page.goBack();
-    assert.equal(await hash(page), '#radio/presets');
-    assert.ok(await isInView(page.locator('[id="radio/presets"] h3')));
-    assert.match(await page.title(), /radio\/presets/);
+onPage('long tables can be filtered', 'radio.stations.html', {}, async (page) => {
+  await page.getByLabel('Filter').fill('logoover');
+  assert.equal(await page.locator('.own tbody tr:visible').count(), 2);
+  assert.match(await page.locator('.filter [role="status"]').textContent(), /^2 of/);
+});
+
+onPage('a small screen scrolls one way only, and its menu gives the focus back', 'index.html',
+  { viewport: { width: 320, height: 640 } }, async (page, go) => {
+    for (const place of ['index.html', 'kinds.html', 'frame.html', 'silence.html', 'places.html',
+      'softwareupdate.InitialModeInstallations.html', 'guidance.notifications.html#objectUri']) {
+      await go(place);
+      const width = await page.evaluate(() => {
+        document.querySelectorAll('details').forEach((each) => { each.open = true; });
+        return document.documentElement.scrollWidth;
+      });
+      assert.ok(width <= 320, `${place} is ${width} wide`);
+    }
+    const menu = page.getByRole('button', { name: 'Services' });
+    await menu.click();
+    await page.keyboard.press('Tab');
+    await page.keyboard.press('Escape');
+    assert.ok(await menu.evaluate((button) => button === document.activeElement));
+    assert.ok(await page.locator('.services').isHidden());
   });
 
-onPage('the three depths are those of the library', '#radio/presets', {}, async (page) => {
-  const texts = await page.locator('[id="radio/presets"] .forms pre').allTextContents();
-  const [full, shallow, reference] = texts.map((text) => JSON.parse(text));
-  assert.equal(full.station.uri, shallow.station);
-  assert.equal(reference, full.uri);
+onPage('print shows what is folded, on white', 'radio.presets.html', {}, async (page) => {
+  await page.getByRole('button', { name: 'Colours' }).click({ clickCount: 2 });
+  assert.equal(await page.locator('html').getAttribute('data-theme'), 'dark');
+  await page.emulateMedia({ media: 'print' });
+  assert.equal(await page.evaluate(() => getComputedStyle(document.body).backgroundColor),
+    'rgb(255, 255, 255)');
+  assert.ok((await page.locator('.snippet').boundingBox()).height > 100);
 });
 
-onPage('the snippets compile', '', { javaScriptEnabled: false }, async (page) => {
-  const snippets = await page.locator('.snippet').allTextContents();
-  assert.equal(snippets.length, 181);
-  const lines = snippets.map((snippet) => snippet.split('\n'));
-  const isInclude = (line) => line.startsWith('#include');
-  const includes = lines.flat().filter(isInclude);
-  const bodies = lines.map((each, at) =>
-    [`namespace snippet${at} {`, ...each.filter((line) => !isInclude(line)), '}'].join('\n'));
-  const folder = mkdtempSync(join(tmpdir(), 'snippets-'));
-  try {
-    // One as it stands, and all in one unit, their includes first.
-    writeFileSync(join(folder, 'one.cpp'), snippets.find((each) => each.includes('target')));
-    writeFileSync(join(folder, 'all.cpp'), [...new Set(includes), ...bodies].join('\n'));
-    const folders = process.env.INCLUDE_FOLDERS.split(':').map((each) => '-I' + each);
-    execFileSync(process.env.CXX, ['-std=c++17', '-fsyntax-only', '-Wall', '-Wextra', '-Werror',
-      ...folders, join(folder, 'one.cpp'), join(folder, 'all.cpp')], { stdio: 'pipe' });
-  } finally {
-    rmSync(folder, { recursive: true });
-  }
-});
+const axe = createRequire(import.meta.url).resolve('axe-core/axe.min.js');
+for (const colorScheme of ['light', 'dark']) {
+  onPage(`nothing keeps anybody out in the ${colorScheme} colours`, 'index.html', { colorScheme },
+    async (page, go) => {
+      for (const place of ['index.html', 'frame.html', 'kinds.html', 'silence.html', 'radio.html',
+        'radio.stations.html#frequency']) {
+        await go(place);
+        await page.addScriptTag({ path: axe });
+        await page.keyboard.press('/');
+        await page.keyboard.type('station');
+        const { violations } = await page.evaluate(() => {
+          document.querySelectorAll('details').forEach((each) => { each.open = true; });
+          return axe.run({ preload: false });
+        });
+        assert.deepEqual(violations.filter((each) => /serious|critical/.test(each.impact))
+          .map((each) => `${place}: ${each.id}: ${each.nodes[0].html}`), []);
+      }
+    });
+}

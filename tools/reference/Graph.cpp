@@ -3,6 +3,9 @@
 #include "tools/lookup/Links.h"
 #include "tools/lookup/Lookup.h"
 
+#include "tools/reference/Address.h"
+#include "tools/reference/Html.h"
+
 #include <algorithm>
 #include <set>
 #include <stdexcept>
@@ -37,7 +40,7 @@ std::string nodeText(Resource const& resource, std::string_view service)
     bool const isOutside = resource.service != service;
     return "  " + quoted(name) +
            " [label=" + quoted(isOutside ? name : std::string(resource.resourceKey)) +
-           ", URL=" + quoted("#" + name) + ", tooltip=" + quoted(name) +
+           ", URL=" + quoted(addressOf(resource)) + ", tooltip=" + quoted(name) +
            ", id=" + quoted("graph/" + std::string(service) + "/" + name) +
            ", class=" + (isOutside ? "outside" : "inside") + "];\n";
 }
@@ -67,28 +70,6 @@ std::string edgeText(kiv::Ends const& ends, std::vector<Field const*> const& fie
            ", edgetooltip=" + quoted(all) + ", labeltooltip=" + quoted(all) +
            ", id=" + quoted("graph/" + std::string(service) + "/" + from + "-" + to) +
            (isPolymorphic ? ", class=maybe, style=dashed" : "") + "];\n";
-}
-
-/// What ` name="…"` says first, or nothing.
-std::string attributeOf(std::string const& text, std::string const& name)
-{
-    std::string const start = ' ' + name + "=\"";
-    auto const place = text.find(start);
-    if (place == std::string::npos) {
-        return {};
-    }
-    auto const value = place + start.size();
-    return text.substr(value, text.find('"', value) - value);
-}
-
-/// Takes every ` name="…"` out of the text.
-void dropAttribute(std::string& text, std::string const& name)
-{
-    std::string const start = ' ' + name + "=\"";
-    for (auto place = text.find(start); place != std::string::npos; place = text.find(start)) {
-        auto const end = text.find('"', place + start.size());
-        text.erase(place, end + 1 - place);
-    }
 }
 
 } // namespace

@@ -1,22 +1,22 @@
 #include "tools/reference/KindTexts.h"
 
-#include <algorithm>
-#include <stdexcept>
-
 namespace reference {
 
 using zel::kiv::catalogue::Kind;
 
 namespace {
 
-constexpr std::string_view oneOwned = "owned; the getter lends the pointer";
+constexpr std::string_view copied = "copied in and out";
+constexpr std::string_view oneOwned =
+    "owned, the getter lends it; one that is replaced is nobody's";
 constexpr std::string_view manyOwned = "owned; the getter copies the list of pointers";
 constexpr std::string_view oneWritten = "an Object; shallow and below: a String holding its uri";
 
 } // namespace
 
-KindTexts textsOf(Kind kind)
+KindTexts textsOf(zel::kiv::catalogue::Kind kind)
 {
+    using zel::kiv::catalogue::Kind;
     switch (kind) {
     case Kind::String:
         return {"copied in; the getter lends a reference", "a String"};
@@ -27,28 +27,19 @@ KindTexts textsOf(Kind kind)
     case Kind::Bool:
         return {"by value", "a Boolean"};
     case Kind::StringList:
-        return {"copied in and out", "an Array of String"};
+        return {copied, "an Array of String"};
     case Kind::IntList:
-        return {"copied in and out", "an Array of Integer"};
+        return {copied, "an Array of Integer"};
     case Kind::Element:
     case Kind::External:
+    case Kind::Polymorphic:
         return {oneOwned, oneWritten};
     case Kind::ElementList:
         return {manyOwned, "an Array of such values as element"};
     case Kind::ExternalList:
         return {manyOwned, "an Array of such values as external"};
-    case Kind::Polymorphic:
-        return {"owned; the getter lends the pointer, and a flag for each target tells its class",
-                oneWritten};
     }
-    throw std::logic_error("a kind without words");
-}
-
-std::string anchorOf(Kind kind)
-{
-    std::string word(wordOf(kind));
-    std::ranges::replace(word, ' ', '-');
-    return "kinds/" + word;
+    return {};
 }
 
 } // namespace reference

@@ -1,123 +1,92 @@
-#include "tools/reference/ResourcePage.h"
-
 #include "tools/lookup/Lookup.h"
-#include "tools/reference/Forms.h"
-#include "tools/reference/KindTexts.h"
+#include "tools/reference/Address.h"
+#include "tools/reference/FieldTable.h"
+#include "tools/reference/Html.h"
+#include "tools/reference/Pages.h"
+#include "tools/reference/Samples.h"
 #include "tools/reference/Snippet.h"
-
-#include <algorithm>
 
 namespace reference {
 
 namespace {
 
-using kiv::catalogue::Accessor;
 using kiv::catalogue::Field;
-using kiv::catalogue::Kind;
 using kiv::catalogue::Resource;
 
-Data text(std::string_view words)
-{
-    return {std::string(words)};
-}
-
-/// A signature in three pieces, so that its name can stand out.
-Data accessorData(Accessor const& accessor)
-{
-    auto const name = accessor.signature.find(accessor.name);
-    Data data;
-    data.set("before", breakable(accessor.signature.substr(0, name)));
-    data.set("name", text(accessor.name));
-    data.set("after", breakable(accessor.signature.substr(name + accessor.name.size())));
-    return data;
-}
-
-Data targetData(Field const& field, Resource const* target)
-{
-    Data data;
-    data.set("name", kiv::nameOf(target));
-    data.set("isExternal", target->isExternal());
-    data.set("isLast", target->isExternal() && field.kind == Kind::Polymorphic);
-    data.set("class", text(target->elementClass));
-    return data;
-}
-
-bool isCommon(Field const& field)
-{
-    return kiv::catalogue::external().find(field.key) != nullptr;
-}
-
-/// External kinds have one target that the kind names already.
-bool showsTargets(Field const& field)
-{
-    return isNested(field.kind) && field.kind != Kind::External && field.kind != Kind::ExternalList;
-}
-
-Data fieldData(Resource const& resource, Field const& field)
-{
-    List targets;
-    if (showsTargets(field)) {
-        for (Resource const* const target : field.targets) {
-            targets.push_back(targetData(field, target));
-        }
-    }
-    List accessors;
-    for (Accessor const& each : field.accessors) {
-        accessors.push_back(accessorData(each));
-    }
-    std::string const word(wordOf(field.kind));
-    Data data;
-    data.set("place", kiv::nameOf(&resource) + '/' + std::string(field.key));
-    data.set("key", text(field.key));
-    data.set("isCommon", isCommon(field));
-    data.set("kind", word);
-    data.set("kindAnchor", anchorOf(field.kind));
-    data.set("ownership", text(textsOf(field.kind).ownership));
-    data.set("hasTargets", !targets.empty());
-    data.set("targets", targets);
-    data.set("accessors", accessors);
-    return data;
-}
+/// Tables of more rows than that get an index of their keys.
+constexpr std::size_t mostWithoutIndex = 14;
 
 List holdersData(Resource const& resource)
 {
     List holders;
-    for (auto const& [holder, field] : kiv::holdersOf(resource)) {
+    for (auto const& holder : kiv::holdersOf(resource)) {
         Data data;
-        data.set("name", kiv::nameOf(holder));
-        data.set("key", text(field->key));
+        data.set("address", addressOf(*holder.resource, *holder.field));
+        data.set("name", breakable(kiv::nameOf(holder)));
         holders.push_back(std::move(data));
     }
     return holders;
 }
 
+List keysData(Resource const& resource)
+{
+    List keys;
+    for (Field const* const field : fieldsOf(resource, false)) {
+        Data data;
+        data.set("key", std::string(field->key));
+        data.set("shownKey", breakable(field->key));
+        keys.push_back(std::move(data));
+    }
+    return keys;
+}
+
+List samplesData(Resource const& resource)
+{
+    List list;
+    for (Sample const& sample : samplesOf(resource)) {
+        Data data;
+        data.set("form", std::string(sample.form));
+        data.set("title", std::string(sample.title));
+        data.set("use", std::string(sample.use));
+        data.set("json", sample.json);
+        list.push_back(std::move(data));
+    }
+    return list;
+}
+
 } // namespace
 
-std::string resourcePart(Resource const& resource, Templates const& templates)
+Page resourcePage(Resource const& resource, Sources const& sources)
 {
-    List fields;
-    for (Field const& field : resource.fields) {
-        fields.push_back(fieldData(resource, field));
-    }
+    List const keys = keysData(resource);
     List const holders = holdersData(resource);
-    Forms const forms = formsOf(resource);
+    auto const text = [](std::string_view words) { return Data(std::string(words)); };
     Data data;
     data.set("name", kiv::nameOf(&resource));
+    data.set("shownName", breakable(kiv::nameOf(&resource)));
     data.set("service", text(resource.service));
-    data.set("class", text(resource.name));
-    data.set("element", text(resource.element));
+    data.set("class", breakable(resource.name));
+    data.set("resourceClass", breakable(resource.resourceClass));
+    data.set("elementClass", breakable(resource.elementClass));
     data.set("resourceKey", text(resource.resourceKey));
     data.set("elementKey", text(resource.elementKey));
-    data.set("about", text(resource.about));
+    data.set("about", sources.prose.htmlOf(resource.about, resource.service, &resource));
     data.set("header", text(resource.header));
-    data.set("fields", fields);
+    data.set("hasIndex", keys.size() > mostWithoutIndex);
+    data.set("keys", keys);
+    data.set("fields", fieldTable(resource, false, sources.templates, sources.prose));
+    data.set("commonFields", fieldTable(resource, true, sources.templates, sources.prose));
     data.set("isHeld", !holders.empty());
     data.set("holders", holders);
-    data.set("full", forms.full);
-    data.set("shallow", forms.shallow);
-    data.set("reference", forms.reference);
-    data.set("snippet", snippetOf(resource));
-    return templates.fill("resource", data);
+    data.set("samples", samplesData(resource));
+    data.set("snippet", escaped(snippetOf(resource)));
+    return {.sort = "resource",
+            .address = addressOf(resource),
+            .title = kiv::nameOf(&resource),
+            .summary = std::string(resource.about),
+            .content = sources.templates.fill("resource", data),
+            .service = resource.service,
+            .resource = &resource};
 }
 
 } // namespace reference

@@ -1,28 +1,23 @@
 #include "tools/reference/Snippet.h"
 
 #include "tools/lookup/Lookup.h"
+#include "tools/reference/FieldTable.h"
 #include "tools/sample/SampleValues.h"
 
-#include <algorithm>
 #include <array>
-#include <optional>
 #include <vector>
 
 namespace reference {
 
 namespace {
 
+using kiv::catalogue::Accessor;
 using kiv::catalogue::Content;
 using kiv::catalogue::Field;
 using kiv::catalogue::Kind;
 using kiv::catalogue::Purpose;
 using kiv::catalogue::Resource;
 namespace sample = zel::kiv::sample;
-
-bool isCommon(Field const& field)
-{
-    return kiv::catalogue::external().find(field.key) != nullptr;
-}
 
 /// Kinds that are alike in use; an example shows one field of each group that the resource has.
 int groupOf(Kind kind)
@@ -53,11 +48,12 @@ std::vector<Field const*> fieldsToShow(Resource const& resource)
     return fields;
 }
 
-std::string_view nameOf(Field const& field, Purpose purpose)
+std::string_view getterOf(Field const& field)
 {
-    return field.find(purpose)->name;
+    return field.find(Purpose::Get)->name;
 }
 
+/// A C++ literal of what one call of the setter or adder takes.
 std::string literalFor(Field const& field)
 {
     switch (traitsOf(field.kind).content) {
@@ -77,6 +73,12 @@ std::string literalFor(Field const& field)
     return '"' + sample::textFor(field.key) + '"';
 }
 
+/// The class of the target's element, as the snippets spell it.
+std::string className(Resource const& target)
+{
+    return "kiv::" + std::string(target.elementClass);
+}
+
 std::string call(std::string_view object, std::string_view function, std::string_view argument = "")
 {
     std::string text(object);
@@ -86,15 +88,18 @@ std::string call(std::string_view object, std::string_view function, std::string
 /// The statements that give a nested element to `element`.
 std::string attaching(Field const& field)
 {
-    Resource const* const target = field.targets.front();
+    Resource const& target = *field.targets.front();
     // One example may hold a polymorphic and another nested field.
     std::string const name = field.kind == Kind::Polymorphic ? "target" : "nested";
     std::string const uri =
-        '/' + (target->isExternal() ? "other/" + std::string(field.key) : kiv::nameOf(target)) +
+        '/' + (target.isExternal() ? "other/" + std::string(field.key) : kiv::nameOf(&target)) +
         "/7";
-    return "    auto " + name + " = std::make_unique<kiv::" + std::string(target->elementClass) +
-           ">();\n    " + call(name, "setUri", '"' + uri + '"') + ";\n    " +
-           call("element", field.writer().name, "std::move(" + name + ")") + ";\n";
+    std::string text = "    auto " + name + " = std::make_unique<" + className(target) +
+                       ">();\n    " + call(name, "setUri", '"' + uri + '"') + ";\n";
+    if (!isList(field.kind)) {
+        text += "    // Replaced by another one later, this one would be nobody's and leak.\n";
+    }
+    return text + "    " + call("element", field.writer().name, "std::move(" + name + ")") + ";\n";
 }
 
 std::string writing(Field const& field)
@@ -107,7 +112,7 @@ std::string writing(Field const& field)
 
 std::string printing(Field const& field)
 {
-    std::string const get = call("element", nameOf(field, Purpose::Get));
+    std::string const get = call("element", getterOf(field));
     if (isNested(field.kind) && isList(field.kind)) {
         return "            for (auto const* nested : " + get +
                ") {\n                std::cout << nested->getUri() << '\\n';\n            }\n";
@@ -116,18 +121,35 @@ std::string printing(Field const& field)
         return "            for (auto const& entry : " + get +
                ") {\n                std::cout << entry << '\\n';\n            }\n";
     }
-    if (field.kind == Kind::Polymorphic) {
-        return "            auto const* target = static_cast<kiv::" +
-               std::string(field.targets.front()->elementClass) + " const*>(\n                " +
-               get + ");\n            std::cout << target->getUri() << '\\n';\n";
-    }
     return "            std::cout << " + get + (isNested(field.kind) ? "->getUri()" : "") +
            " << '\\n';\n";
 }
 
+/// One branch for each class that the field may hold.
+std::string readingTargets(Field const& field)
+{
+    std::string text;
+    for (Accessor const& accessor : field.accessors) {
+        if (accessor.purpose != Purpose::Presence) {
+            continue;
+        }
+        text += (text.empty() ? "        if (" : " else if (") + call("element", accessor.name) +
+                ") {\n            auto const* target = static_cast<" + className(*accessor.target) +
+                " const*>(\n                " + call("element", getterOf(field)) +
+                ");\n            std::cout << target->getUri() << '\\n';\n        }";
+    }
+    text += '\n';
+    return field.hasLastResort()
+               ? text
+               : "        // A uri that names none of these is dropped: none is set then.\n" + text;
+}
+
 std::string reading(Field const& field)
 {
-    return "        if (" + call("element", nameOf(field, Purpose::Presence)) + ") {\n" +
+    if (field.kind == Kind::Polymorphic) {
+        return readingTargets(field);
+    }
+    return "        if (" + call("element", field.find(Purpose::Presence)->name) + ") {\n" +
            printing(field) + "        }\n";
 }
 
@@ -145,9 +167,9 @@ std::string snippetOf(Resource const& resource)
     return "#include \"" + std::string(resource.header) + "\"\n\n#include <iostream>\n\n" +
            "namespace kiv = zel::kiv::common;\nusing zel::dataformats::data::Value;\n\n" +
            "// One element, filled, as a value tree.\n" +
-           "std::unique_ptr<Value> write()\n{\n    auto element = std::make_unique<kiv::" +
-           std::string(resource.elementClass) + ">();\n    element->setUri(\"/" +
-           kiv::nameOf(&resource) + "/1\");\n" + writes + "\n    " + collection +
+           "std::unique_ptr<Value> write()\n{\n    auto element = std::make_unique<" +
+           className(resource) + ">();\n    element->setUri(\"/" + kiv::nameOf(&resource) +
+           "/1\");\n" + writes + "\n    " + collection +
            " resource;\n    resource.addObject(std::move(element));\n" +
            "    return resource.serialize();\n}\n\n" + "// What a received value tree holds.\n" +
            "void read(Value const& received)\n{\n    " + collection +

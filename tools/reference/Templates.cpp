@@ -6,24 +6,6 @@
 
 namespace reference {
 
-std::string escaped(std::string_view text)
-{
-    return kainjow::mustache::html_escape(std::string(text));
-}
-
-std::string breakable(std::string_view code)
-{
-    std::string html;
-    for (std::size_t place = 0; place < code.size(); ++place) {
-        html += escaped(code.substr(place, 1));
-        bool const endsScope = place > 0 && code.substr(place - 1, 2) == "::";
-        if (endsScope || code[place] == '(' || code[place] == '<') {
-            html += "<wbr>";
-        }
-    }
-    return html;
-}
-
 std::string contentOf(fs::path const& file)
 {
     std::ifstream stream(file, std::ios::binary);

@@ -4,9 +4,7 @@
 
 #include <filesystem>
 #include <string>
-#include <string_view>
 
-/// The browsable reference: pages made of the catalogue and of templates.
 namespace reference {
 
 namespace fs = std::filesystem;
@@ -14,12 +12,6 @@ namespace fs = std::filesystem;
 /// What a template is filled with. Text under a name is escaped where the template says `{{name}}`.
 using Data = kainjow::mustache::data;
 using List = kainjow::mustache::list;
-
-/// Text as HTML shows it, fit for attributes too.
-std::string escaped(std::string_view text);
-
-/// The same for a piece of C++, which may be broken behind `::`, `(` and `<`.
-std::string breakable(std::string_view code);
 
 /// The content of a file. Throws `std::runtime_error` if it cannot be read.
 std::string contentOf(fs::path const& file);

@@ -1,127 +1,163 @@
-// Finds names by what somebody types. It knows nothing of the page: an entry is
-// { name, place, kind, what }, the place being `radio/presets/station` or a part of such.
+// Finds names by what somebody types. It knows nothing of the page. What it searches is in
+// `names.js`, which the writer of the reference makes of the catalogue:
+//
+//   names = { services: [[name, about, resources]], others: [[name, sort, place, text, names]] }
+//   resources: [[key, class, element, elementKey, about, fields]]
+//   fields: [[key, kind, note, accessors]], without the fields that all elements have
 'use strict';
 
 const search = (() => {
-  /** How many slips a word of that length may hold and still be taken for another. */
-  function slipsIn(length) {
-    return Math.min(4, Math.max(1, Math.floor(length / 3)));
+  const sorts = ['service', 'resource', 'page', 'kind', 'frame', 'common field', 'field'];
+
+  const worstRank = 8;
+
+  /** The last part of a path, and what stands before it. */
+  function split(path) {
+    const at = path.lastIndexOf('/');
+    return at < 0 ? ['', path] : [path.slice(0, at), path.slice(at + 1)];
   }
 
   /**
-   * How many letters must be added, dropped, changed or swapped with their neighbour to make one
-   * word of the other; limit + 1 stands for anything above the limit.
+   * One way to write what can be written in many: `radio::Presets`, `services/radio/Presets.h` and
+   * `zel::kiv::common::radio::Presets` are `radio/Presets`, `void setId(std::string const& value)`
+   * is `setId`.
    */
-  function slipsBetween(one, other, limit) {
-    if (Math.abs(one.length - other.length) > limit) {
-      return limit + 1;
-    }
-    let twoAbove = [];
-    let above = Array.from({ length: other.length + 1 }, (_, column) => column);
-    for (let line = 1; line <= one.length; ++line) {
-      const row = [line];
-      for (let column = 1; column <= other.length; ++column) {
-        const change = one[line - 1] === other[column - 1] ? 0 : 1;
-        row[column] = Math.min(above[column] + 1, row[column - 1] + 1, above[column - 1] + change);
-        if (line > 1 && column > 1 && one[line - 1] === other[column - 2] &&
-            one[line - 2] === other[column - 1]) {
-          row[column] = Math.min(row[column], twoAbove[column - 2] + 1);
+  function normal(text) {
+    const call = text.indexOf('(');
+    const name = call < 0 ? text : text.slice(0, call).split(/[\s*&]|->/).pop();
+    return name.replace(/^\s*#include\b/, '').replace(/["'<>`;,]/g, '').trim()
+      .replace(/^services\/(.*)\.h$/, '$1').replace(/\.html(?=#|$)/, '')
+      .replace(/(::|[.#/\s])+/g, '/').replace(/^\/|\/$/g, '')
+      .replace(/^(zel\/kiv\/common|kiv)\/(?=.)/, '');
+  }
+
+  /** The words of a text or of what somebody types, for people. */
+  function plain(text) {
+    return text.toLowerCase().replace(/[`"“”.,;:()]+/g, ' ');
+  }
+
+  /**
+   * All of `names` lead to the entry at once, `path` says where it is, `text` explains it. The names
+   * stand in one text, each in a line of its own, since that is searched fastest.
+   */
+  function entryOf(sort, name, path, place, names, text, kind = '') {
+    const lines = `\n${name}\n${path}\n${names.join('\n')}\n`;
+    return { sort, name, path, place, text, kind, lines, lower: lines.toLowerCase(),
+      order: sorts.indexOf(sort), plainText: null };
+  }
+
+  function entryOfResource(service, [key, type, element, elementKey, about]) {
+    const path = `${service}/${key}`;
+    const names = [type, `${service}/${type}`, element, `${type}/${element}`,
+      `${service}/${type}/${element}`, elementKey, `${type}/h`];
+    return entryOf('resource', key, path, `${service}.${key}.html`, names, about);
+  }
+
+  function byWeight(one, other) {
+    return one.order - other.order || one.name.length - other.name.length ||
+      (one.path < other.path ? -1 : 1);
+  }
+
+  /** What there is to find, one entry for each place, what weighs most first. */
+  function entriesOf(names) {
+    const entries = names.others.map(([name, sort, place, text, more]) =>
+      entryOf(sort, name, normal(name), place, more.map(normal), text));
+    for (const [service, about, resources] of names.services) {
+      entries.push(entryOf('service', service, service, `${service}.html`, [], about));
+      for (const resource of resources) {
+        const holder = entryOfResource(service, resource);
+        entries.push(holder);
+        for (const [key, kind, note, accessors] of resource[5]) {
+          entries.push(entryOf('field', key, `${holder.path}/${key}`, `${holder.place}#${key}`,
+            accessors, note, kind));
         }
       }
-      if (Math.min(...row) > limit) {
-        return limit + 1;
-      }
-      twoAbove = above;
-      above = row;
     }
-    return above[other.length];
+    return entries.sort(byWeight);
   }
 
-  /** `radio::Presets`, `radio.presets` and `/radio/presets/` are all `radio/presets`. */
-  function normal(text) {
-    return text.trim().replace(/::|\./g, '/').replace(/^\/+|\/+$/g, '').toLowerCase();
+  function called(entries, name) {
+    const line = `\n${name.toLowerCase()}\n`;
+    return entries.filter((entry) => entry.lower.includes(line));
   }
 
-  /** The key that an accessor is made of, `position` for `getPosition` or `isPositionSet()`. */
-  function keyOfAccessor(text) {
-    const found = /^(?:(?:get|set|add)([A-Z]\w*)|is([A-Z]\w*)Set)(?:\(.*)?$/.exec(text.trim());
-    return found ? (found[1] || found[2]).toLowerCase() : null;
+  /** A field of what the path names before its last part, or that itself: the rest is an id then. */
+  function within(entries, path) {
+    const [head, tail] = split(path);
+    const holder = head && called(entries, head).find((each) => each.sort === 'resource');
+    if (!holder) {
+      return head.includes('/') ? within(entries, head) : [];
+    }
+    const fields = entries.filter((each) => each.path.startsWith(`${holder.path}/`));
+    const common = entries.filter((each) => each.sort === 'common field');
+    const found = called(fields, tail);
+    return found.length > 0 ? found : called(common, tail).map((each) => entryOf('field', each.name,
+      `${holder.path}/${each.name}`, `${holder.place}#${each.name}`, [], each.text)).concat(holder);
   }
 
-  function isWordStart(name, at) {
-    return /[A-Z]/.test(name[at]) && !/[A-Z]/.test(name[at - 1]);
+  function startsWord(name, at) {
+    return at === 0 || (/[A-Z]/.test(name[at]) && !/[A-Z]/.test(name[at - 1]));
+  }
+
+  /** How well an entry fits of which a name holds `lower`. */
+  function rankOfName(entry, wanted, lower) {
+    if (entry.lines.includes(`\n${wanted}\n`)) {
+      return 0;
+    }
+    if (entry.lower.includes(`\n${lower}\n`)) {
+      return 1;
+    }
+    const at = entry.name.toLowerCase().indexOf(lower);
+    return at < 0 ? 5 : at === 0 ? 2 : startsWord(entry.name, at) ? 3 : 4;
   }
 
   /** How well an entry fits, the smaller the better, or null. */
-  function rank(entry, wanted, key) {
-    const name = entry.name.toLowerCase();
-    const place = entry.place.toLowerCase();
-    if (name === wanted || place === wanted) {
-      return 0;
+  function rank(entry, wanted, lower, words) {
+    if (entry.lower.includes(lower)) {
+      return rankOfName(entry, wanted, lower);
     }
-    if (key !== null && name === key) {
-      return 1;
-    }
-    const at = name.indexOf(wanted);
-    if (at === 0) {
-      return 2;
-    }
-    if (at > 0) {
-      return isWordStart(entry.name, at) ? 3 : 4;
-    }
-    if (place.includes(wanted) && wanted.includes('/')) {
-      return 5;
-    }
-    if (entry.aliases.some((alias) => alias.toLowerCase().includes(wanted))) {
+    if (words.every((word) => entry.lower.includes(word))) {
       return 6;
     }
-    return entry.kind === wanted ? 7 : null;
+    entry.plainText ??= plain(entry.text);
+    if (words.every((word) => entry.plainText.includes(word) || entry.lower.includes(word))) {
+      return 7;
+    }
+    return entry.kind.replace(' ', '/') === lower ? worstRank : null;
   }
 
-  function byRank(one, other) {
-    return one.rank - other.rank || one.entry.what - other.entry.what ||
-      one.entry.name.length - other.entry.name.length ||
-      (one.entry.place < other.entry.place ? -1 : 1);
-  }
-
-  /** Entries whose name is a slip or two away, the closest first. */
-  function near(entries, wanted) {
-    const limit = slipsIn(wanted.length);
-    const slips = new Map();
-    const found = [];
+  /** What fits, the best first; the first `exact` of them are called so. */
+  function fitting(entries, wanted, text) {
+    const lower = wanted.toLowerCase();
+    const words = plain(text).trim().split(/[\s/]+/);
+    const byRank = Array.from({ length: worstRank + 1 }, () => []);
     for (const entry of entries) {
-      const name = entry.name.toLowerCase();
-      if (!slips.has(name)) {
-        slips.set(name, slipsBetween(wanted, name, limit));
-      }
-      if (slips.get(name) <= limit) {
-        found.push({ entry, rank: slips.get(name) });
+      const value = rank(entry, wanted, lower, words);
+      if (value !== null) {
+        byRank[value].push(entry);
       }
     }
-    found.sort(byRank);
-    return found.filter((each) => each.rank <= found[0].rank + 1).map((each) => each.entry);
+    return { entries: byRank.flat(), exact: byRank[0].length + byRank[1].length, isNear: false };
   }
 
-  /** What fits, or what is near if nothing does: { entries, isNear }. */
+  /** What fits, or what is near if nothing does: { entries, exact, isNear }. */
   function find(entries, text) {
     const wanted = normal(text);
     if (wanted === '') {
-      return { entries: [], isNear: false };
+      return { entries: [], exact: 0, isNear: false };
     }
-    const key = keyOfAccessor(text);
-    const found = [];
-    for (const entry of entries) {
-      const place = rank(entry, wanted, key);
-      if (place !== null) {
-        found.push({ entry, rank: place });
+    const result = fitting(entries, wanted, text);
+    if (result.exact === 0) {
+      const inside = within(entries, wanted);
+      const isBegun = result.entries.some((each) => each.path.startsWith(wanted));
+      if (inside.length > 0 && !isBegun) {
+        const others = result.entries.filter((each) => !inside.includes(each));
+        return { entries: inside.concat(others), exact: inside.length, isNear: false };
       }
     }
-    if (found.length > 0) {
-      found.sort(byRank);
-      return { entries: found.map((each) => each.entry), isNear: false };
-    }
-    return { entries: near(entries, key || wanted.split('/').pop()), isNear: true };
+    return result.entries.length > 0 ? result :
+      { entries: spelling.near(entries, split(wanted)[1]), exact: 0, isNear: true };
   }
 
-  return { find };
+  return { entriesOf, find };
 })();

@@ -40,8 +40,6 @@ window.theme = (() => {
   }
 
   choose(stored());
-  // Until the script has chosen what to show, the services are not laid out.
   root.classList.replace('plain', 'scripted');
-  root.classList.add('loading');
   return { current, next };
 })();
