@@ -15,13 +15,19 @@ build: ## build library and tools (build/release)
 
 demo: ## build and run the main job on the bundled example
 	@scripts/install-packages build
-	@scripts/build release -j $(JOBS) --target shipped presets
+	@scripts/build release -j $(JOBS) --target shipped presets radio-service radio-player
 	@echo
 	@echo "The input, examples/presets.json:"
 	@cat examples/presets.json
 	@echo
 	@echo "What the typed accessors answer, and each element in full, shallow and as a reference:"
 	@build/release/examples/presets examples/presets.json
+	@echo
+	@echo "A client and its service, two processes that send each other values as lines of JSON:"
+	@examples/radio/run build/release/examples
+	@echo
+	@echo "The same with a fault in the service, of which nobody says a word:"
+	@examples/radio/run build/release/examples --faulty
 
 test: ## build everything and run all tests
 	@scripts/install-packages build reference
