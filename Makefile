@@ -4,7 +4,7 @@
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help demo build test lint format sanitize arm64 figures bench mutants fuzz platform-check package reference ci clean
+.PHONY: help demo build test lint format sanitize arm64 compat figures bench mutants fuzz platform-check package reference ci clean
 
 help: ## show this list
 	@awk -F ':.*## ' '/^[a-z0-9-]+:.*## / { printf "  make %-14s %s\n", $$1, $$2 }' Makefile
@@ -50,6 +50,10 @@ sanitize: ## all tests under address, undefined-behaviour and thread sanitizers 
 arm64: ## cross-build for 64-bit Arm and run the tests under emulation
 	@scripts/install-packages build arm64
 	@scripts/arm64 -j $(JOBS)
+
+compat: ## what the definitions break since the last release, and the version for it
+	@scripts/install-packages build
+	@scripts/compat -j $(JOBS)
 
 figures: ## hold the figures that do not depend on the machine
 	@scripts/install-packages build figures

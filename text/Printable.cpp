@@ -94,6 +94,18 @@ std::string printable(std::string_view text)
     return shown;
 }
 
+std::u32string decoded(std::string_view text)
+{
+    std::u32string characters;
+    while (!text.empty()) {
+        auto const character = firstOf(text);
+        bool const isBroken = character.code == 0 && text.front() != '\0';
+        characters += isBroken ? U'\uFFFD' : character.code;
+        text.remove_prefix(character.length);
+    }
+    return characters;
+}
+
 std::string inQuotes(std::string_view text)
 {
     constexpr std::size_t most = 80;

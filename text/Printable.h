@@ -11,6 +11,9 @@ namespace kiv {
 /// broken UTF-8 appear as `\x1b`. What is printable already stays as it is.
 std::string printable(std::string_view text);
 
+/// The characters of a text in UTF-8; U+FFFD stands for what is broken.
+std::u32string decoded(std::string_view text);
+
 /// The text between single quotes, printable, and cut short if it is long.
 std::string inQuotes(std::string_view text);
 

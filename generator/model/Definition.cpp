@@ -46,6 +46,9 @@ void Reader::read(Node const& document)
               "'resource_key' and 'element_key'",
               m_faults);
     auto& resource = m_definition.resource;
+    for (Entry const& row : document.table) {
+        resource.rows.emplace(row.key, row.place);
+    }
     if (auto const* const element = find(document, "element")) {
         readElement(*element);
     } else {

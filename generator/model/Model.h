@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -49,6 +50,7 @@ struct Resource {
     std::string about;         ///< what one element is
     std::vector<Field> fields; ///< all of them, `id`, `name` and `uri` too, in byte order of keys
     SourcePosition place;
+    std::map<std::string, SourcePosition> rows; ///< where those of the definition stand, by key
 
     [[nodiscard]] bool isExternal() const { return service.empty(); }
 };

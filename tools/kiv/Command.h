@@ -44,5 +44,6 @@ std::unique_ptr<Command> makeSampleCommand();
 std::unique_ptr<Command> makeDiffCommand();
 std::unique_ptr<Command> makeGraphCommand();
 std::unique_ptr<Command> makeSchemaCommand();
+std::unique_ptr<Command> makeCompatCommand();
 
 } // namespace kiv

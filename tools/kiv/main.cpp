@@ -29,6 +29,7 @@ Commands allCommands()
     commands.push_back(kiv::makeCheckCommand());
     commands.push_back(kiv::makeDiffCommand());
     commands.push_back(kiv::makeSchemaCommand());
+    commands.push_back(kiv::makeCompatCommand());
     return commands;
 }
 

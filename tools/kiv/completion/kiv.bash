@@ -58,11 +58,11 @@ _kiv() {
         )
         ;;
     find:*) ;;
-    *:1) _kiv_complete resources ;;
-    *)
+    compat:* | *:[2-9])
         mapfile -t COMPREPLY < <(compgen -f -- "$word")
         compopt -o filenames 2>/dev/null
         ;;
+    *) _kiv_complete resources ;;
     esac
 }
 
