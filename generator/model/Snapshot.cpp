@@ -4,8 +4,8 @@
 #include "generator/model/Collection.h"
 #include "generator/model/Fields.h"
 #include "generator/model/Rows.h"
-#include "text/Printable.h"
 #include "generator/model/TomlReader.h"
+#include "text/Printable.h"
 
 #include <algorithm>
 #include <array>
