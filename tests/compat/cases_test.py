@@ -1,4 +1,5 @@
-"""kiv compat finds what cases.txt says, and each of its rules is found there.
+"""kiv compat finds what cases.txt says, and each of its rules is found there; the file of a release
+holds all that is in the definitions.
 cases_test.py KIV..."""
 import json, pathlib, subprocess, sys, tempfile
 
@@ -57,6 +58,12 @@ with tempfile.TemporaryDirectory() as folder:
         if wrong := check(block, pathlib.Path(folder), steps):
             print("\n".join([*block, "but found:", *wrong, ""]))
             failed = True
+    release = pathlib.Path(folder) / "release"
+    services = here.parents[1] / "services"
+    release.write_text(subprocess.run([*kiv, "compat", "--snapshot", services, "--release", "1.0.0"],
+                                      capture_output=True, text=True, check=True).stdout)
+    code, report = compat(release, services, "--json")
+    failed |= code != 0 or report["changes"] != []
 shown = {line.split(" ")[1] for block in blocks for line in block if line[0] == "="}
 if shown != set(steps):
     print("rules without a case, cases without a rule:", shown ^ set(steps))

@@ -2,7 +2,6 @@
 
 #include "generator/model/Loader.h"
 #include "generator/model/Snapshot.h"
-#include "text/Failure.h"
 #include "text/Phrases.h"
 #include "tools/compat/Checkout.h"
 
@@ -12,17 +11,11 @@
 namespace compat {
 namespace {
 
-/// All faults, or nothing.
-void refuse(kivgen::Faults const& faults)
+void refuse(kivgen::Faults& faults)
 {
-    if (faults.empty()) {
-        return;
+    if (!faults.empty()) {
+        throw Faulty(std::move(faults));
     }
-    auto text = kiv::counted(faults.size(), "fault") + " in the definitions, nothing compared";
-    for (kivgen::Fault const& fault : faults) {
-        text += '\n' + kivgen::toMessage(fault);
-    }
-    throw kiv::Failure(text);
 }
 
 Side readFolder(std::filesystem::path const& folder, std::string const& shown)
@@ -40,6 +33,12 @@ std::string shownAs(std::string const& path)
 }
 
 } // namespace
+
+Faulty::Faulty(kivgen::Faults faults)
+    : kiv::Failure(kiv::counted(faults.size(), "fault") + " in the definitions, nothing compared"),
+      m_faults(std::move(faults))
+{
+}
 
 Side readSide(std::string const& path)
 {

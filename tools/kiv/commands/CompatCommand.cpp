@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <unistd.h>
 
 namespace kiv {
 
@@ -58,6 +59,21 @@ public:
             printRules(console);
             return Exit::Clean;
         }
+        try {
+            return work(console, allowed, release);
+        } catch (compat::Faulty const& fault) {
+            Output messages(STDERR_FILENO);
+            for (kivgen::Fault const& each : fault.faults()) {
+                messages.write(kivgen::toMessage(each) + '\n');
+            }
+            messages.flush();
+            throw;
+        }
+    }
+
+private:
+    Exit work(Console& console, Breaks allowed, std::optional<Version> const& release) const
+    {
         if (m_snapshot) {
             printSnapshot(console);
             return Exit::Clean;
@@ -73,7 +89,6 @@ public:
         return release ? judgeRelease(console, report, *release) : judge(report, allowed);
     }
 
-private:
     [[nodiscard]] Breaks allowedBreaks() const
     {
         try {
