@@ -12,7 +12,16 @@ namespace zel::kiv::common {
 
 /// Base of every element: one object of a resource, with typed fields that may or may not be set.
 ///
-/// An element owns what its fields hold. It is not to be used from two threads while one of them
+/// The accessors of all fields are alike. A setter or adder sets its field whatever the value, be it
+/// zero, empty or null, and `is…Set` tells that; nothing unsets a field. A getter does not ask
+/// whether the field is set. Of a list it gives a copy; adders append to the list.
+///
+/// An element owns what its fields hold: setters and adders take elements over, getters lend them.
+/// A setter does not free the element that it replaces: whoever replaces one keeps its pointer and
+/// frees it. A field that holds elements of several classes has a setter and an `is…Set` for each;
+/// the latter tells what the getter's result may be cast to.
+///
+/// An element is not to be used from two threads while one of them
 /// writes. No operation throws anything of its own; what allocation or the value classes throw
 /// passes through, and what was set before stays set.
 class ZEL_KIV_API IObjectBase {

@@ -2,15 +2,16 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 namespace kivgen {
 
 namespace {
 
-std::string_view valueOf(std::string_view name, Slots slots)
+Block const& valueOf(std::string_view name, Slots const& slots)
 {
-    auto const* const slot = std::find_if(slots.begin(), slots.end(),
-                                          [&](auto const& each) { return each.first == name; });
+    auto const slot = std::find_if(slots.begin(), slots.end(),
+                                   [&](auto const& each) { return each.first == name; });
     if (slot == slots.end()) {
         throw std::logic_error("a template names the slot '" + std::string(name) +
                                "', which nothing fills");
@@ -18,7 +19,7 @@ std::string_view valueOf(std::string_view name, Slots slots)
     return slot->second;
 }
 
-std::string fillLine(std::string_view line, Slots slots)
+std::string fillLine(std::string_view line, Slots const& slots)
 {
     std::string result;
     while (true) {
@@ -31,7 +32,13 @@ std::string fillLine(std::string_view line, Slots slots)
         if (end == std::string_view::npos) {
             throw std::logic_error("a template has a single '$': " + std::string(line));
         }
-        result += valueOf(line.substr(begin + 1, end - begin - 1), slots);
+        std::string_view const name = line.substr(begin + 1, end - begin - 1);
+        std::string const word = valueOf(name, slots).at(0);
+        auto const wordEnd = word.find('\n');
+        if (wordEnd + 1 < word.size()) {
+            throw std::logic_error("lines where a word is meant: $" + std::string(name) + '$');
+        }
+        result += word.substr(0, wordEnd);
         line.remove_prefix(end + 1);
     }
 }
@@ -39,11 +46,6 @@ std::string fillLine(std::string_view line, Slots slots)
 bool isOneSlot(std::string_view line)
 {
     return line.size() > 2 && line.front() == '$' && line.find('$', 1) == line.size() - 1;
-}
-
-bool ends(std::string_view text, char last)
-{
-    return !text.empty() && text.back() == last;
 }
 
 /// The next line of the text, without its end, taken off the text.
@@ -55,7 +57,31 @@ std::string_view takeLine(std::string_view& text)
     return line;
 }
 
-/// Items from `first` on, filling lines that begin at column `left`.
+/// The line moved to the right, with its end.
+std::string moved(std::string_view line, std::size_t column)
+{
+    return (line.empty() ? "" : std::string(column, ' ')) + std::string(line) + '\n';
+}
+
+std::string filledTemplate(std::string_view text, Slots const& slots, std::size_t column)
+{
+    // Raw strings begin with a line end, so that they may stand flush left.
+    if (!text.empty() && text.front() == '\n') {
+        text.remove_prefix(1);
+    }
+    std::string result;
+    while (!text.empty()) {
+        std::string_view const line = takeLine(text);
+        auto const left = std::min(line.find_first_not_of(' '), line.size());
+        std::string_view const content = line.substr(left);
+        result += isOneSlot(content)
+                      ? valueOf(content.substr(1, content.size() - 2), slots).at(column + left)
+                      : moved(fillLine(line, slots), column);
+    }
+    return result;
+}
+
+/// Items that fill lines which begin at column `left`; the first one stands at column `used`.
 std::string filled(std::size_t left, std::size_t used, std::vector<std::string> const& items,
                    std::string_view separator, std::string_view tail)
 {
@@ -80,77 +106,88 @@ std::string filled(std::size_t left, std::size_t used, std::vector<std::string> 
 
 } // namespace
 
-std::string fill(std::string_view text, Slots slots)
+Block::Block(std::string text)
 {
-    // Raw strings begin with a line end, so that they may stand flush left.
-    if (!text.empty() && text.front() == '\n') {
-        text.remove_prefix(1);
+    if (!text.empty()) {
+        m_parts.emplace_back([text = std::move(text)](std::size_t column) {
+            std::string result;
+            std::string_view rest = text;
+            while (!rest.empty()) {
+                result += moved(takeLine(rest), column);
+            }
+            return result;
+        });
     }
+}
+
+Block Block::of(Layout layout)
+{
+    Block block;
+    block.m_parts.push_back(std::move(layout));
+    return block;
+}
+
+Block& Block::operator+=(Block const& other)
+{
+    m_parts.insert(m_parts.end(), other.m_parts.begin(), other.m_parts.end());
+    return *this;
+}
+
+std::string Block::at(std::size_t column) const
+{
     std::string result;
-    while (!text.empty()) {
-        std::string_view const line = takeLine(text);
-        std::string const made = fillLine(line, slots);
-        if (made.empty() && isOneSlot(line)) {
-            continue;
-        }
-        result += made;
-        // A block brings its own line end along.
-        if (!(isOneSlot(line) && ends(made, '\n'))) {
-            result += '\n';
-        }
+    for (Layout const& each : m_parts) {
+        result += each(column);
     }
     return result;
 }
 
-std::string indented(std::string_view text, std::size_t by)
+Block fill(std::string_view text, Slots slots)
 {
-    std::string result;
-    while (!text.empty()) {
-        std::string_view const line = takeLine(text);
-        if (!line.empty()) {
-            result += std::string(by, ' ');
-        }
-        result += line;
-        result += '\n';
-    }
-    return result;
+    return Block::of([text, slots = std::move(slots)](std::size_t column) {
+        return filledTemplate(text, slots, column);
+    });
 }
 
-std::string comment(std::string_view text, std::size_t indent)
+Block comment(std::string text)
 {
-    std::string const start = std::string(indent, ' ') + "///";
-    std::string result;
-    std::string line = start;
-    while (!text.empty()) {
-        auto const end = std::min(text.find(' '), text.size());
-        std::string_view const word = text.substr(0, end);
-        text.remove_prefix(std::min(end + 1, text.size()));
-        if (line.size() > start.size() && line.size() + 1 + word.size() > columns) {
-            result += line + '\n';
-            line = start;
+    return Block::of([text = std::move(text)](std::size_t column) {
+        std::string const start = std::string(column, ' ') + "///";
+        std::string result;
+        std::string line = start;
+        std::string_view rest = text;
+        while (!rest.empty()) {
+            auto const end = std::min(rest.find(' '), rest.size());
+            std::string_view const word = rest.substr(0, end);
+            rest.remove_prefix(std::min(end + 1, rest.size()));
+            if (line.size() > start.size() && line.size() + 1 + word.size() > columns) {
+                result += line + '\n';
+                line = start;
+            }
+            line += ' ';
+            line += word;
         }
-        line += ' ';
-        line += word;
-    }
-    return result + line + '\n';
+        return result + line + '\n';
+    });
 }
 
-std::string wrapped(std::size_t indent, std::string_view head,
-                    std::vector<std::string> const& items, std::string_view separator,
-                    std::string_view tail)
+Block wrapped(std::string head, std::vector<std::string> items, std::string separator,
+              std::string tail)
 {
-    std::string const start = std::string(indent, ' ') + std::string(head);
     auto const longest =
         std::max_element(items.begin(), items.end(), [](auto const& one, auto const& other) {
             return one.size() < other.size();
         })->size();
     auto const end = std::max(separator.size(), tail.size());
-    if (start.size() + longest + end <= columns) {
-        return start + filled(start.size(), start.size(), items, separator, tail) + '\n';
-    }
-    std::size_t const left = indent + 4;
-    return start + '\n' + std::string(left, ' ') + filled(left, left, items, separator, tail) +
-           '\n';
+    return Block::of([=](std::size_t column) {
+        std::string const start = std::string(column, ' ') + head;
+        if (start.size() + longest + end <= columns) {
+            return start + filled(start.size(), start.size(), items, separator, tail) + '\n';
+        }
+        std::size_t const left = column + 4;
+        return start + '\n' + std::string(left, ' ') + filled(left, left, items, separator, tail) +
+               '\n';
+    });
 }
 
 } // namespace kivgen

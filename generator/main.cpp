@@ -1,8 +1,9 @@
 #include "commandline/CommandLine.h"
-#include "generator/Output.h"
+#include "generator/PageWriter.h"
 #include "generator/model/Loader.h"
-#include "generator/pages/Pages.h"
+#include "generator/pages/Outputs.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -12,9 +13,28 @@
 
 namespace {
 
-int run(std::filesystem::path const& definitions, std::filesystem::path const& output)
+/// What the command line asks for.
+struct Wishes {
+    std::string definitions;
+    std::string folder; ///< empty: write nothing
+    std::string list;   ///< the output whose files are to be named, or empty
+};
+
+void checkOutput(std::string const& name)
 {
-    kivgen::Loaded const loaded = kivgen::load(definitions);
+    auto const names = kivgen::outputNames();
+    if (std::find(names.begin(), names.end(), name) == names.end()) {
+        std::string known;
+        for (auto const& each : names) {
+            known += (known.empty() ? "'" : ", '") + each + '\'';
+        }
+        throw commandline::Misuse("no output '" + name + "'; there are " + known);
+    }
+}
+
+int run(Wishes const& wishes)
+{
+    kivgen::Loaded const loaded = kivgen::load(wishes.definitions);
     for (kivgen::Fault const& fault : loaded.faults) {
         std::cerr << kivgen::toMessage(fault) << '\n';
     }
@@ -24,8 +44,11 @@ int run(std::filesystem::path const& definitions, std::filesystem::path const& o
                   << ", nothing written\n";
         return EXIT_FAILURE;
     }
-    if (!output.empty()) {
-        kivgen::write(kivgen::allPages(loaded.interface), output);
+    for (auto const& path : kivgen::pathsOf(wishes.list, loaded.interface)) {
+        std::cout << path << '\n';
+    }
+    if (!wishes.folder.empty()) {
+        kivgen::write(kivgen::allPages(loaded.interface), wishes.folder);
     }
     return EXIT_SUCCESS;
 }
@@ -37,18 +60,24 @@ int runCommandLine(int argc, char const* const* argv)
         "Turns the definitions of the interface into C++ classes and the catalogue's table.\n"
         "Faults in the definitions are all reported, and then nothing is written.\n\n"
         "  kivgen services build/generated    generate\n"
-        "  kivgen services                    check the definitions only");
-    std::string definitions;
-    std::string output;
+        "  kivgen services                    check the definitions only\n"
+        "  kivgen services --list classes     name the files of one output");
+    Wishes wishes;
     auto arguments = line.arguments();
-    arguments.required("DEFINITIONS", definitions, "The folder 'services' with the definitions");
-    arguments.optional("OUTPUT", output,
+    arguments.required("DEFINITIONS", wishes.definitions,
+                       "The folder 'services' with the definitions");
+    arguments.optional("FOLDER", wishes.folder,
                        "The folder to write to; files whose text is unchanged are not touched");
+    arguments.optional("--list", wishes.list,
+                       "An output, classes or catalogue: print the paths of its files");
     if (auto const text = line.parse(argc, argv)) {
         std::cout << *text;
         return EXIT_SUCCESS;
     }
-    return run(definitions, output);
+    if (!wishes.list.empty()) {
+        checkOutput(wishes.list);
+    }
+    return run(wishes);
 }
 
 } // namespace

@@ -57,18 +57,16 @@ std::string typeFor(std::string_view type, std::string_view held)
 Accessor presenceOf(Field const& field)
 {
     return {Purpose::Presence,
-            "Whether `" + field.key + "` is set.",
             "bool",
             presenceName(field.key),
             "",
-            "return " + flagOf(field) + ";\n",
+            "return " + flagOf(field) + ";",
             {}};
 }
 
-std::string writeStep(Field const& field, std::string const& word)
+Block writeStep(Field const& field, std::string const& word)
 {
-    return wrapped(8, "object.add" + word + "(", {'"' + field.key + '"', memberOf(field)}, ",",
-                   ");");
+    return wrapped("object.add" + word + "(", {'"' + field.key + '"', memberOf(field)}, ",", ");");
 }
 
 } // namespace kivgen

@@ -6,38 +6,23 @@ namespace kivgen::kinds {
 
 namespace {
 
-Accessor getterOf(Field const& field, bool isList)
-{
-    auto const traits = zel::kiv::catalogue::traitsOf(field.kind);
-    return {Purpose::Get,
-            std::string(isList ? "A copy of the list `" : "The `") + field.key + "`; " +
-                std::string(traits.unset) + " while it is not set.",
-            std::string(traits.result),
-            getterName(field.key),
-            "",
-            "return " + memberOf(field) + ";\n",
-            {}};
-}
-
-Accessor setterOf(Field const& field)
+Accessor setterOf(Field const& field, std::string_view parameter)
 {
     return {Purpose::Set,
-            "Sets `" + field.key + "`, whatever the value.",
             "void",
             setterName(field.key),
-            std::string(zel::kiv::catalogue::traitsOf(field.kind).parameter),
-            memberOf(field) + " = value;\n" + flagOf(field) + " = true;\n",
+            std::string(parameter),
+            memberOf(field) + " = value;\n" + flagOf(field) + " = true;",
             {}};
 }
 
-Accessor adderOf(Field const& field)
+Accessor adderOf(Field const& field, std::string_view parameter)
 {
     return {Purpose::Add,
-            "Appends to the list `" + field.key + "`, which is set from then on.",
             "void",
             adderName(field.key),
-            std::string(zel::kiv::catalogue::traitsOf(field.kind).parameter),
-            memberOf(field) + ".push_back(value);\n" + flagOf(field) + " = true;\n",
+            std::string(parameter),
+            memberOf(field) + ".push_back(value);\n" + flagOf(field) + " = true;",
             {}};
 }
 
@@ -45,16 +30,24 @@ Accessor adderOf(Field const& field)
 
 FieldCode plainCode(Field const& field)
 {
+    auto const traits = zel::kiv::catalogue::traitsOf(field.kind);
     bool const isList = zel::kiv::catalogue::isList(field.kind);
-    Accessor const accept = isList ? adderOf(field) : setterOf(field);
+    Accessor const accept =
+        isList ? adderOf(field, traits.parameter) : setterOf(field, traits.parameter);
     std::string const word = enumeratorOf(field.kind);
     FieldCode code;
-    code.accessors = {getterOf(field, isList), accept, presenceOf(field)};
-    code.members = {declared(field, zel::kiv::catalogue::traitsOf(field.kind).stored),
-                    "bool " + flagOf(field) + " = false;"};
+    code.accessors = {{Purpose::Get,
+                       std::string(traits.result),
+                       getterName(field.key),
+                       "",
+                       "return " + memberOf(field) + ';',
+                       {}},
+                      accept,
+                      presenceOf(field)};
+    code.members = {declared(field, traits.stored), "bool " + flagOf(field) + " = false;"};
     code.flags = {flagOf(field)};
     code.write = writeStep(field, word);
-    code.read = wrapped(8, "fields.read" + word + "(",
+    code.read = wrapped("fields.read" + word + "(",
                         {'"' + field.key + '"', "&Element::" + accept.name}, ",", ");");
     return code;
 }

@@ -25,9 +25,6 @@ Accessor setterOf(Field const& field, Target const& target, Interface const& int
     }
     auto const traits = zel::kiv::catalogue::traitsOf(field.kind);
     return {Purpose::Set,
-            "Sets `" + field.key +
-                "` to an element of this class and takes it over. An element held before is not "
-                "freed: whoever replaces it keeps its pointer and frees it.",
             "void",
             setterName(field.key),
             typeFor(traits.parameter, elementClassOf(interface.at(target))),
@@ -37,72 +34,73 @@ Accessor setterOf(Field const& field, Target const& target, Interface const& int
 
 Accessor presenceOf(Field const& field, Target const& target, Interface const& interface)
 {
-    Resource const& held = interface.at(target);
     return {Purpose::Presence,
-            "Whether `" + field.key + "` holds a `" + elementClassOf(held) + "`.",
             "bool",
-            presenceName(field.key, held),
+            presenceName(field.key, interface.at(target)),
             "",
-            "return " + flagOf(field, target, interface) + ";\n",
+            "return " + flagOf(field, target, interface) + ';',
             target};
 }
 
-constexpr std::string_view handover = "internal::handover<";
-
-/// What the frame's `handover` takes to bring an element of that target into the field.
-std::vector<std::string> argumentsOf(Field const& field, Target const& target,
-                                     Interface const& interface)
+/// What brings an element of that target into the field.
+Block handoverOf(Field const& field, Target const& target, Interface const& interface,
+                 std::string const& end)
 {
-    return {"Element", "common::" + elementClassOf(interface.at(target)),
-            "&Element::" + setterName(field.key)};
+    return wrapped("internal::handover<",
+                   {"Element", "common::" + elementClassOf(interface.at(target)),
+                    "&Element::" + setterName(field.key)},
+                   ",", '>' + end);
 }
 
-std::string rowOf(Field const& field, Target const& target, Interface const& interface)
+Block rowOf(Field const& field, Target const& target, Interface const& interface)
 {
-    Resource const& resource = interface.at(target);
-    std::string const start = "{\"" + target.service + '/' + resource.resourceKey + "\",";
-    std::string const beside = start + ' ' + std::string(handover);
-    std::vector<std::string> const arguments = argumentsOf(field, target, interface);
-    std::string const below = wrapped(5, handover, arguments, ",", ">},");
-    bool const isOneLine = std::ranges::count(below, '\n') == 1;
-    auto const width = 4 + beside.size() + arguments[0].size() + 2 + arguments[1].size() + 1;
-    return isOneLine || width > columns ? "    " + start + '\n' + below
-                                        : wrapped(4, beside, arguments, ",", ">},");
-}
-
-/// The field's key as the name of a constant, and what the constant is.
-std::string constantOf(Field const& field, std::string_view what)
+    return fill(R"(
 {
-    return field.key + std::string(what);
+    "$service$/$resource$",
+    $handover$
+},
+)",
+                {{"service", target.service},
+                 {"resource", interface.at(target).resourceKey},
+                 {"handover", handoverOf(field, target, interface, ",")}});
 }
 
 /// The uri's service and resource decide, in the order of the targets; an external target takes
 /// what is left, wherever it stands among them.
-std::string targetsOf(Field const& field, Interface const& interface)
+Block targetsOf(Field const& field, Interface const& interface)
 {
-    std::string rows;
-    std::string lastResort;
+    Block rows;
+    Block lastResort;
     for (Target const& target : field.targets) {
-        if (target.isExternal()) {
-            lastResort = "constexpr internal::Handover<common::IObjectBase> " +
-                         constantOf(field, "LastResort") + " =\n" +
-                         wrapped(4, handover, argumentsOf(field, target, interface), ",", ">;") +
-                         '\n';
-        } else {
+        if (!target.isExternal()) {
             rows += rowOf(field, target, interface);
+            continue;
         }
+        lastResort =
+            fill(R"(
+
+constexpr internal::Handover<common::IObjectBase> $key$LastResort =
+    $handover$
+)",
+                 {{"key", field.key}, {"handover", handoverOf(field, target, interface, ";")}});
     }
-    return "constexpr internal::Target " + constantOf(field, "Targets") + "[] = {\n" + rows +
-           "};\n\n" + lastResort;
+    return fill(R"(
+constexpr internal::Target $key$Targets[] = {
+    $rows$
+};
+$lastResort$
+
+)",
+                {{"key", field.key}, {"rows", rows}, {"lastResort", lastResort}});
 }
 
-std::string readStep(Field const& field)
+Block readStep(Field const& field)
 {
-    std::vector<std::string> arguments = {'"' + field.key + '"', constantOf(field, "Targets")};
+    std::vector<std::string> arguments = {'"' + field.key + '"', field.key + "Targets"};
     if (std::ranges::any_of(field.targets, &Target::isExternal)) {
-        arguments.push_back('&' + constantOf(field, "LastResort"));
+        arguments.push_back('&' + field.key + "LastResort");
     }
-    return wrapped(8, "fields.readPolymorphic(", arguments, ",", ");");
+    return wrapped("fields.readPolymorphic(", arguments, ",", ");");
 }
 
 } // namespace
@@ -110,17 +108,15 @@ std::string readStep(Field const& field)
 FieldCode polymorphicCode(Field const& field, Interface const& interface)
 {
     std::string const member = memberOf(field);
-    FieldCode code;
     auto const traits = zel::kiv::catalogue::traitsOf(field.kind);
+    FieldCode code;
+    code.warning = replacement;
     code.members = {declared(field, traits.stored)};
     code.accessors = {{Purpose::Get,
-                       "The element under `" + field.key +
-                           "`, not handed over; null while it is not set. Its class is told by "
-                           "the accessors below.",
                        std::string(traits.result),
                        getterName(field.key),
                        "",
-                       "return " + member + ";\n",
+                       "return " + member + ';',
                        {}}};
     for (Target const& target : field.targets) {
         code.includes.push_back(headerOf(interface.at(target)));
@@ -134,7 +130,7 @@ FieldCode polymorphicCode(Field const& field, Interface const& interface)
     code.targets = targetsOf(field, interface);
     code.read = readStep(field);
     code.write = writeStep(field, "Element");
-    code.release = "    internal::release(" + member + ");\n";
+    code.release = "internal::release(" + member + ");";
     return code;
 }
 

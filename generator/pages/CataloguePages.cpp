@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <map>
-#include <set>
 #include <stdexcept>
 
 namespace kivgen {
@@ -42,13 +41,13 @@ $fields$
 } // namespace
 
 Resource const table[$rowCount$] = {
-$rows$
+    $rows$
 };
 
 std::size_t const tableSize = $size$;
 
 Service const serviceTable[$services$] = {
-$serviceRows$
+    $serviceRows$
 };
 
 std::size_t const serviceTableSize = $services$;
@@ -101,31 +100,30 @@ std::string_view wordOf(Purpose purpose)
     throw std::logic_error("an accessor without a purpose");
 }
 
-std::string makerDeclarations(Resource const& resource)
+Block makerDeclarations(Resource const& resource)
 {
     std::string const word = wordOf(resource);
     return "std::unique_ptr<common::IResourceBase> " + word +
            "();\nstd::unique_ptr<common::IObjectBase> " + word + "Element();\n";
 }
 
-std::string makerDefinitions(Resource const& resource)
+Block makerDefinitions(Resource const& resource)
 {
     return fill(R"(
 
 std::unique_ptr<common::IResourceBase> $word$()
 {
-    return std::make_unique<common::$service$::$Resource$>();
+    return std::make_unique<common::$Resource$>();
 }
 
 std::unique_ptr<common::IObjectBase> $word$Element()
 {
-    return std::make_unique<common::$service$::$Resource$::$Element$>();
+    return std::make_unique<common::$Element$>();
 }
 )",
                 {{"word", wordOf(resource)},
-                 {"service", resource.service},
-                 {"Resource", resource.name},
-                 {"Element", resource.element}});
+                 {"Resource", resourceClassOf(resource)},
+                 {"Element", elementClassOf(resource)}});
 }
 
 /// Lists of rows that several owners point into, each list written once.
@@ -141,7 +139,7 @@ public:
         }
         std::string key;
         for (std::string const& row : rows) {
-            key += "    " + row + ",\n";
+            key += row + ",\n";
         }
         auto const [place, isNew] = m_places.try_emplace(key, m_size);
         if (isNew) {
@@ -152,9 +150,14 @@ public:
                std::to_string(rows.size()) + "}";
     }
 
-    [[nodiscard]] std::string text() const
+    [[nodiscard]] Block text() const
     {
-        return "constexpr " + m_type + ' ' + m_name + "[] = {\n" + m_text + "};\n";
+        return fill(R"(
+constexpr $type$ $name$[] = {
+    $rows$
+};
+)",
+                    {{"type", m_type}, {"name", m_name}, {"rows", m_text}});
     }
 
 private:
@@ -209,7 +212,7 @@ std::vector<std::string> fieldRows(Resource const& resource, Interface const& in
 
 std::string resourceRow(Resource const& resource, std::string const& fields)
 {
-    std::string row = "    {";
+    std::string row = "{";
     for (std::string const& text :
          {resource.service, resource.name, resource.element, resource.resourceKey,
           resource.elementKey, headerOf(resource), resourceClassOf(resource),
@@ -226,19 +229,19 @@ std::string serviceRow(Service const& service, Interface const& interface)
     auto const& all = interface.resources;
     auto const begin = std::ranges::lower_bound(all, service.name, {}, &Resource::service);
     auto const end = std::ranges::upper_bound(all, service.name, {}, &Resource::service);
-    return "    {" + literal(service.name) + ", " + literal(service.group) + ", " +
+    return "{" + literal(service.name) + ", " + literal(service.group) + ", " +
            literal(service.about) + ", {table + " + std::to_string(begin - all.begin()) + ", " +
            std::to_string(end - begin) + "}},\n";
 }
 
 } // namespace
 
-Page cataloguePage(Interface const& interface)
+std::string tablePage(Interface const& interface)
 {
     Rows accessors("Accessor", "accessors");
     Rows targets("Resource const* const", "targets");
     Rows fields("Field", "fields");
-    std::string declarations;
+    Block declarations;
     std::string rows;
     for (Resource const& resource : interface.resources) {
         declarations += makerDeclarations(resource);
@@ -251,49 +254,34 @@ Page cataloguePage(Interface const& interface)
     for (Service const& service : interface.services) {
         serviceRows += serviceRow(service, interface);
     }
-    return {"catalogue/Table.cpp",
-            fill(table, {{"mark", generatedMark},
-                         {"makers", declarations},
-                         {"accessors", accessors.text()},
-                         {"targets", targets.text()},
-                         {"fields", fields.text()},
-                         {"size", std::to_string(interface.resources.size())},
-                         {"rowCount", std::to_string(interface.resources.size() + 1)},
-                         {"rows", rows},
-                         {"services", std::to_string(interface.services.size())},
-                         {"serviceRows", serviceRows}})};
+    return fill(table, {{"mark", generatedMark},
+                        {"makers", declarations},
+                        {"accessors", accessors.text()},
+                        {"targets", targets.text()},
+                        {"fields", fields.text()},
+                        {"size", std::to_string(interface.resources.size())},
+                        {"rowCount", std::to_string(interface.resources.size() + 1)},
+                        {"rows", rows},
+                        {"services", std::to_string(interface.services.size())},
+                        {"serviceRows", serviceRows}})
+        .at(0);
 }
 
-Page makersPage(std::string const& service, Interface const& interface)
+std::string makersPage(Service const& service, Interface const& interface)
 {
     std::string includes;
-    std::string definitions;
+    Block definitions;
     for (Resource const& resource : interface.resources) {
-        if (resource.service == service) {
-            includes += "#include \"services/" + service + '/' + resource.name + ".h\"\n";
+        if (resource.service == service.name) {
+            includes += "#include \"" + headerOf(resource) + "\"\n";
             definitions += makerDefinitions(resource);
         }
     }
-    return {"catalogue/" + service + ".cpp", fill(makers, {{"mark", generatedMark},
-                                                           {"service", service},
-                                                           {"includes", includes},
-                                                           {"makers", definitions}})};
-}
-
-std::vector<Page> allPages(Interface const& interface)
-{
-    std::vector<Page> pages;
-    std::set<std::string> services;
-    for (Resource const& resource : interface.resources) {
-        pages.push_back(headerPage(resource, interface));
-        pages.push_back(sourcePage(resource, interface));
-        services.insert(resource.service);
-    }
-    for (std::string const& service : services) {
-        pages.push_back(makersPage(service, interface));
-    }
-    pages.push_back(cataloguePage(interface));
-    return pages;
+    return fill(makers, {{"mark", generatedMark},
+                         {"service", service.name},
+                         {"includes", includes},
+                         {"makers", definitions}})
+        .at(0);
 }
 
 } // namespace kivgen

@@ -30,27 +30,17 @@ $resourceHead$
 public:
     class $Element$;
 
-    /// Makes an empty collection.
     $Resource$();
     ~$Resource$() override;
-
-    /// An `Array` of the elements, each in full; the caller owns it. No slot may be null.
     [[nodiscard]] std::unique_ptr<zel::dataformats::data::Value> serialize() const override;
-
-    /// Appends one element for each entry of the `Array` given; true for any value.
     bool deserialize(zel::dataformats::data::Value const* value) override;
-
-    /// The number of slots, emptied ones included.
     [[nodiscard]] std::size_t getNumberOfElements() const override;
 
     /// The slots themselves; null where the element was extracted.
-$getObjects$
-
+    $getObjects$
     /// Appends a slot and takes the element over.
     void addObject(std::unique_ptr<$Element$> element);
-
-    /// Hands the element in that slot over. The slot stays behind, null; it must not be there when
-    /// the collection is serialized. Null for an index at or beyond the number of slots.
+    /// Hands over the element in that slot, or null if there is none. The slot stays behind, null.
     std::unique_ptr<$Element$> extractElement(unsigned int index);
 
 private:
@@ -65,83 +55,90 @@ namespace zel::kiv::common::$service$ {
 $elementAbout$
 $elementHead$
 public:
-    /// Makes an element with no field set.
     $Element$();
-
-    /// Frees all that the fields hold.
     ~$Element$() override;
-
-    /// The element as an `Object` of its set fields, or as a `String` of its uri; the caller owns
-    /// it. No field that is set may hold a null element.
     [[nodiscard]] std::unique_ptr<zel::dataformats::data::Value>
     serialize(SerializationType type) const override;
-
-    /// Sets the fields that the `Object` given has, on top of those set already; true for any
-    /// value.
     bool deserialize(zel::dataformats::data::Value const* value) override;
 
-$declarations$
+    $fields$
 private:
-$members$
+    $members$
 };
 
 } // namespace zel::kiv::common::$service$
 )";
 
-std::string includesOf(std::set<std::string> const& headers)
+Block includesOf(std::set<std::string> const& headers)
 {
     std::string lines;
     for (std::string const& each : headers) {
-        lines += "#include \"" + each + "\"\n";
+        lines += "\n#include \"" + each + '"';
     }
-    return lines.empty() ? lines : '\n' + lines;
+    return lines;
 }
 
 /// The resource's own comment: what it collects, since `about` tells of one element.
-std::string resourceAbout(Resource const& resource)
+Block resourceAbout(Resource const& resource)
 {
     return comment("The collection `" + resource.service + '/' + resource.resourceKey +
-                       "`; it owns its elements. See `" + resource.element + "`.",
-                   0);
+                   "`; it owns its elements. See `" + resource.element + "`.");
+}
+
+/// One comment, and the accessors below it.
+Block fieldOf(Field const& field, FieldCode const& code)
+{
+    auto const traits = zel::kiv::catalogue::traitsOf(field.kind);
+    std::string about = '`' + field.key + "`: " + std::string(traits.word) + ", " +
+                        std::string(traits.unset) + " while unset.";
+    for (std::string const& sentence : {field.note, code.warning}) {
+        about += (sentence.empty() ? "" : " ") + sentence;
+    }
+    Block accessors;
+    for (Accessor const& accessor : code.accessors) {
+        accessors += declarationOf(accessor);
+    }
+    return fill(R"(
+$about$
+$accessors$
+
+)",
+                {{"about", comment(about)}, {"accessors", accessors}});
 }
 
 } // namespace
 
-Page headerPage(Resource const& resource, Interface const& interface)
+std::string headerPage(Resource const& resource, Interface const& interface)
 {
-    std::string const own = headerOf(resource);
     std::set<std::string> headers;
-    std::string declarations;
-    std::string members;
+    Block fields;
+    Block members;
     for (Field const& field : resource.fields) {
         FieldCode const code = codeOf(field, interface);
         headers.insert(code.includes.begin(), code.includes.end());
-        for (Accessor const& accessor : code.accessors) {
-            declarations += declarationOf(accessor) + '\n';
-        }
+        fields += fieldOf(field, code);
         for (std::string const& member : code.members) {
             members += memberLine(member);
         }
     }
-    headers.erase(own);
-    // A block ends with one line end here, since a blank line stands behind it in the template.
-    std::string const getObjects =
-        withResult(4, "[[nodiscard]] std::vector<std::unique_ptr<" + resource.element + ">> const&",
-                   "getObjects() const;");
-    return {own, fill(header, {{"mark", generatedMark},
-                               {"definition", resource.place.file},
-                               {"service", resource.service},
-                               {"Resource", resource.name},
-                               {"Element", resource.element},
-                               {"resourceHead", classHeadOf(resource.name, "IResourceBase")},
-                               {"elementHead", classHeadOf(resource.name + "::" + resource.element,
-                                                           "IObjectBase")},
-                               {"resourceAbout", resourceAbout(resource)},
-                               {"elementAbout", comment(resource.about, 0)},
-                               {"getObjects", getObjects},
-                               {"includes", includesOf(headers)},
-                               {"declarations", declarations},
-                               {"members", members}})};
+    headers.erase(headerOf(resource));
+    return fill(header, {{"mark", generatedMark},
+                         {"definition", resource.place.file},
+                         {"service", resource.service},
+                         {"Resource", resource.name},
+                         {"Element", resource.element},
+                         {"resourceHead", classHeadOf(resource.name, "IResourceBase")},
+                         {"elementHead",
+                          classHeadOf(resource.name + "::" + resource.element, "IObjectBase")},
+                         {"resourceAbout", resourceAbout(resource)},
+                         {"elementAbout", comment(resource.about)},
+                         {"getObjects", withResult("[[nodiscard]] std::vector<std::unique_ptr<" +
+                                                       resource.element + ">> const&",
+                                                   "getObjects() const;")},
+                         {"includes", includesOf(headers)},
+                         {"fields", fields},
+                         {"members", members}})
+        .at(0);
 }
 
 } // namespace kivgen

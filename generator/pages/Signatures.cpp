@@ -1,6 +1,7 @@
 #include "generator/pages/Signatures.h"
 
-#include "generator/Printer.h"
+#include <algorithm>
+#include <utility>
 
 namespace kivgen {
 
@@ -16,86 +17,105 @@ std::string parametersOf(Accessor const& accessor)
     return accessor.parameter.empty() ? "() const" : '(' + spaced(accessor.parameter) + "value)";
 }
 
-/// The signature from some indentation on. One that is too long is broken behind the result, or, in
-/// a definition or where that does not help, before the parameter.
-std::string brokenSignature(std::size_t indent, std::string const& result, Accessor const& accessor,
-                            std::string const& scope, std::string const& tail)
+/// One line if it is short enough at the column, else what it is broken into.
+Block oneOr(std::string line, std::string broken)
+{
+    return Block::of([line = std::move(line), broken = std::move(broken)](std::size_t column) {
+        return Block(column + line.size() <= columns ? line : broken).at(column);
+    });
+}
+
+/// A getter whose result is a single word, which nothing is broken behind.
+Block brokenGetter(std::string const& result, std::string const& scope, std::string const& call,
+                   std::string const& tail)
+{
+    std::string const start = spaced(result) + scope + call;
+    std::string const end = "const" + tail;
+    std::string const behindScope = spaced(result) + scope + "\n    " + call + ' ' + end;
+    return Block::of([=](std::size_t column) {
+        bool const fits = column + start.size() <= columns;
+        return oneOr(start + ' ' + end, fits ? start + "\n    " + end : behindScope).at(column);
+    });
+}
+
+/// A signature that is too long is broken behind the result, or, in a definition or where that does
+/// not help, before the parameter.
+Block brokenSignature(std::string const& result, Accessor const& accessor, std::string const& scope,
+                      std::string const& tail)
 {
     std::string const name = scope + accessor.name;
     if (accessor.parameter.empty()) {
-        return withResult(indent, result, name + "() const" + tail);
+        bool const isWord = result.find_first_of(":*[") == std::string::npos;
+        return isWord ? brokenGetter(result, scope, accessor.name + "()", tail)
+                      : withResult(result, name + "() const" + tail);
     }
     std::string const start = name + '(' + accessor.parameter;
     std::string const end = "value)" + tail;
     std::string const line = spaced(result) + start + ' ' + end;
-    if (indent + line.size() <= columns) {
-        return std::string(indent, ' ') + line + '\n';
-    }
-    if (scope.empty() && indent + start.size() + 1 + end.size() <= columns) {
-        return withResult(indent, result, start + ' ' + end);
-    }
-    std::string const left(indent, ' ');
-    std::string const opened = left + spaced(result) + name + "(\n    " + left + accessor.parameter;
-    if (indent + 4 + accessor.parameter.size() + 1 + end.size() <= columns) {
-        return opened + ' ' + end + '\n';
-    }
-    if (scope.empty() && indent + start.size() <= columns) {
-        return left + result + '\n' + left + start + '\n' +
-               std::string(indent + name.size() + 5, ' ') + end + '\n';
-    }
-    return opened + "\n        " + left + end + '\n';
+    std::string const opened = spaced(result) + name + "(\n    " + accessor.parameter;
+    bool const isDeclaration = scope.empty();
+    return Block::of([=, parameter = accessor.parameter.size()](std::size_t column) {
+        auto const fits = [column](std::size_t size) { return column + size <= columns; };
+        std::string broken = opened + "\n        " + end;
+        if (fits(line.size())) {
+            broken = line;
+        } else if (isDeclaration && fits(start.size() + 1 + end.size())) {
+            broken = result + '\n' + start + ' ' + end;
+        } else if (fits(4 + parameter + 1 + end.size())) {
+            broken = opened + ' ' + end;
+        } else if (isDeclaration && fits(start.size())) {
+            broken = result + '\n' + start + '\n' + std::string(name.size() + 5, ' ') + end;
+        }
+        return Block(broken).at(column);
+    });
+}
+
+/// A constructor with an empty body.
+Block constructor(std::string const& head, std::string const& initialiser)
+{
+    std::string const line = head + ' ' + initialiser;
+    std::string const broken = head + "\n    " + initialiser;
+    return Block::of([=](std::size_t column) {
+        return oneOr(line + " {}", (column + line.size() <= columns ? line : broken) + "\n{\n}")
+            .at(column);
+    });
 }
 
 } // namespace
 
-std::string withResult(std::size_t indent, std::string const& result, std::string const& rest)
+Block withResult(std::string const& result, std::string const& rest)
 {
-    std::string const start = std::string(indent, ' ') + result;
-    bool const fits = start.size() + 1 + rest.size() <= columns;
-    return start + (fits ? " " : '\n' + std::string(indent, ' ')) + rest + '\n';
+    return oneOr(spaced(result) + rest, result + '\n' + rest);
 }
 
-std::string constructorOf(std::string const& name, std::string const& base, std::string const& key)
+Block constructorOf(std::string const& name, std::string const& base, std::string const& key)
 {
-    std::string const initialiser = ": " + base + "(\"" + key + "\")";
-    std::string const line = name + ' ' + initialiser + " {}";
-    if (line.size() <= columns) {
-        return line + '\n';
-    }
-    return name + "\n    " + initialiser + "\n{\n}\n";
+    return constructor(name, ": " + base + "(\"" + key + "\")");
 }
 
-std::string visitorConstructorOf(std::string const& className, std::string const& target)
+Block visitorConstructorOf(std::string const& className, std::string const& target)
 {
-    std::string const head = "    explicit " + className + "Deserializer(" + target + "& target)";
-    std::string const initialiser = ": " + target + "Visitor(target)";
-    std::string const line = head + ' ' + initialiser;
-    if (line.size() <= columns) {
-        return line + (line.size() + 3 <= columns ? " {}\n" : "\n    {\n    }\n");
-    }
-    return head + "\n        " + initialiser + "\n    {\n    }\n";
+    return constructor("explicit " + className + "Deserializer(" + target + "& target)",
+                       ": " + target + "Visitor(target)");
 }
 
-std::string classHeadOf(std::string const& name, std::string const& base)
+Block classHeadOf(std::string const& name, std::string const& base)
 {
     std::string const head = "class ZEL_KIV_API " + name;
-    std::string const line = head + " : public " + base + " {\n";
-    return line.size() <= columns + 1 ? line : head + "\n    : public " + base + " {\n";
+    return oneOr(head + " : public " + base + " {", head + "\n    : public " + base + " {");
 }
 
-std::string memberLine(std::string const& member)
+Block memberLine(std::string const& member)
 {
-    std::string line = indented(member, 4);
-    if (line.size() <= columns + 1) {
-        return line;
-    }
     auto const value = member.find(" = ");
-    if (value != std::string::npos && 4 + value + 2 <= columns) {
-        return "    " + member.substr(0, value + 2) + "\n        " + member.substr(value + 3) +
-               '\n';
-    }
     auto const name = member.find(" m_");
-    return "    " + member.substr(0, name) + "\n        " + member.substr(name + 1) + '\n';
+    std::string const behindName =
+        member.substr(0, value + 2) + "\n    " + member.substr(std::min(value + 3, member.size()));
+    std::string const behindType = member.substr(0, name) + "\n    " + member.substr(name + 1);
+    return Block::of([=](std::size_t column) {
+        bool const fits = value != std::string::npos && column + value + 2 <= columns;
+        return oneOr(member, fits ? behindName : behindType).at(column);
+    });
 }
 
 std::string signatureOf(Accessor const& accessor)
@@ -103,17 +123,24 @@ std::string signatureOf(Accessor const& accessor)
     return spaced(accessor.result) + accessor.name + parametersOf(accessor);
 }
 
-std::string declarationOf(Accessor const& accessor)
+Block declarationOf(Accessor const& accessor)
 {
     std::string const result =
         accessor.parameter.empty() ? "[[nodiscard]] " + accessor.result : accessor.result;
-    return comment(accessor.about, 4) + brokenSignature(4, result, accessor, "", ";");
+    return brokenSignature(result, accessor, "", ";");
 }
 
-std::string definitionOf(Accessor const& accessor, std::string const& scope)
+Block definitionOf(Accessor const& accessor, std::string const& scope)
 {
-    return brokenSignature(0, accessor.result, accessor, scope + "::", "") + "{\n" +
-           indented(accessor.body, 4) + "}\n";
+    return fill(R"(
+
+$signature$
+{
+    $body$
+}
+)",
+                {{"signature", brokenSignature(accessor.result, accessor, scope + "::", "")},
+                 {"body", accessor.body}});
 }
 
 } // namespace kivgen

@@ -1,3 +1,4 @@
+#include "generator/Naming.h"
 #include "generator/Printer.h"
 #include "generator/pages/Pages.h"
 #include "generator/pages/Signatures.h"
@@ -11,7 +12,7 @@ namespace {
 
 constexpr std::string_view source = R"(
 $mark$$definition$
-#include "services/$service$/$Resource$.h"
+#include "$header$"
 
 #include "frame/internal/ObjectReader.h"
 #include "frame/internal/ObjectWriter.h"
@@ -31,26 +32,28 @@ using zel::dataformats::data::Value;
 
 using Resource = common::$service$::$Resource$;
 using Element = Resource::$Element$;
+// The operations are defined under the name of their class, by which they are searched for.
+using $Element$ = Element;
 
 $targets$
 class $Element$Deserializer final : public internal::ElementVisitor {
 public:
-$elementVisitor$
+    $elementVisitor$
 
     void visitObject(PtrMap<std::string, Value> const& map) override
     {
         internal::ObjectReader fields(map, target(), $longestKey$);
-$reads$
+        $reads$
     }
 };
 
 class $Resource$Deserializer final : public internal::ResourceVisitor {
 public:
-$resourceVisitor$
+    $resourceVisitor$
 
     void visitArray(PtrVector<Value> const& entries) override
     {
-$readEntries$
+        $readEntries$
     }
 };
 
@@ -101,17 +104,17 @@ $construct$
 
 $destruct$
 
-std::unique_ptr<Value> Element::serialize(SerializationType type) const
+$serialize$
 {
     if (type == SerializationType::Reference) {
         return internal::makeReference(*this, getUri());
     }
     internal::ObjectWriter object(*this, type);
-$writes$
+    $writes$
     return object.take();
 }
 
-bool Element::deserialize(Value const* value)
+bool $Element$::deserialize(Value const* value)
 {
     $Element$Deserializer visitor(*this);
     visitor.read(value);
@@ -122,15 +125,29 @@ $accessors$
 } // namespace zel::kiv::common::$service$
 )";
 
-std::string writeStep(FieldCode const& code)
+Block writeStep(FieldCode const& code)
 {
-    return wrapped(4, "if (", code.flags, " ||", ") {") + code.write + "    }\n";
+    return fill(R"(
+$condition$
+    $write$
+}
+)",
+                {{"condition", wrapped("if (", code.flags, " ||", ") {")}, {"write", code.write}});
 }
 
-std::string destructorOf(std::string const& element, std::string const& releases)
+Block destructorOf(std::string const& element, Block const& releases)
 {
-    std::string const head = "Element::~" + element + "()";
-    return releases.empty() ? head + " = default;\n" : head + "\n{\n" + releases + "}\n";
+    std::string const head = element + "::~" + element + "()";
+    if (releases.isEmpty()) {
+        return head + " = default;";
+    }
+    return fill(R"(
+$head$
+{
+    $releases$
+}
+)",
+                {{"head", head}, {"releases", releases}});
 }
 
 /// Only what is longer than a string holds in place is worth a reservation; the library asks again.
@@ -143,21 +160,21 @@ std::size_t longestKeyOf(Resource const& resource)
     return longest;
 }
 
-std::string readEntriesOf(Resource const& resource)
+Block readEntriesOf(Resource const& resource)
 {
     std::string const failure = "Error while deserializing array into '" + resource.name +
                                 "::" + resource.element + "'-object!\\n";
-    return wrapped(8, "readEntries<&Resource::addObject>(", {"entries", '"' + failure + '"'}, ",",
+    return wrapped("readEntries<&Resource::addObject>(", {"entries", '"' + failure + '"'}, ",",
                    ");");
 }
 
 /// What the fields of one element make of its source unit.
 struct Steps {
-    std::string reads;
-    std::string targets;
-    std::string writes;
-    std::string releases;
-    std::string accessors;
+    Block reads;
+    Block targets;
+    Block writes;
+    Block releases;
+    Block accessors;
 };
 
 Steps stepsOf(Resource const& resource, Interface const& interface)
@@ -170,7 +187,7 @@ Steps stepsOf(Resource const& resource, Interface const& interface)
         steps.writes += writeStep(code);
         steps.releases += code.release;
         for (Accessor const& accessor : code.accessors) {
-            steps.accessors += '\n' + definitionOf(accessor, "Element");
+            steps.accessors += definitionOf(accessor, resource.element);
         }
     }
     return steps;
@@ -178,29 +195,33 @@ Steps stepsOf(Resource const& resource, Interface const& interface)
 
 } // namespace
 
-Page sourcePage(Resource const& resource, Interface const& interface)
+std::string sourcePage(Resource const& resource, Interface const& interface)
 {
+    std::string const& element = resource.element;
     Steps const steps = stepsOf(resource, interface);
-    return {"services/" + resource.service + '/' + resource.name + ".cpp",
-            fill(source,
-                 {{"mark", generatedMark},
-                  {"definition", resource.place.file},
-                  {"service", resource.service},
-                  {"Resource", resource.name},
-                  {"Element", resource.element},
-                  {"longestKey", std::to_string(longestKeyOf(resource))},
-                  {"reads", steps.reads},
-                  {"targets", steps.targets},
-                  {"readEntries", readEntriesOf(resource)},
-                  {"elementVisitor", visitorConstructorOf(resource.element, "Element")},
-                  {"resourceVisitor", visitorConstructorOf(resource.name, "Resource")},
-                  {"constructResource", constructorOf(resource.name + "::" + resource.name + "()",
-                                                      "IResourceBase", resource.resourceKey)},
-                  {"construct", constructorOf("Element::" + resource.element + "()", "IObjectBase",
-                                              resource.elementKey)},
-                  {"destruct", destructorOf(resource.element, steps.releases)},
-                  {"writes", steps.writes},
-                  {"accessors", steps.accessors}})};
+    return fill(source,
+                {{"mark", generatedMark},
+                 {"definition", resource.place.file},
+                 {"header", headerOf(resource)},
+                 {"service", resource.service},
+                 {"Resource", resource.name},
+                 {"Element", resource.element},
+                 {"longestKey", std::to_string(longestKeyOf(resource))},
+                 {"reads", steps.reads},
+                 {"targets", steps.targets},
+                 {"readEntries", readEntriesOf(resource)},
+                 {"elementVisitor", visitorConstructorOf(resource.element, "Element")},
+                 {"resourceVisitor", visitorConstructorOf(resource.name, "Resource")},
+                 {"constructResource", constructorOf(resource.name + "::" + resource.name + "()",
+                                                     "IResourceBase", resource.resourceKey)},
+                 {"construct", constructorOf(element + "::" + element + "()", "IObjectBase",
+                                             resource.elementKey)},
+                 {"destruct", destructorOf(element, steps.releases)},
+                 {"serialize", withResult("std::unique_ptr<Value>",
+                                          element + "::serialize(SerializationType type) const")},
+                 {"writes", steps.writes},
+                 {"accessors", steps.accessors}})
+        .at(0);
 }
 
 } // namespace kivgen

@@ -19,12 +19,18 @@ using zel::dataformats::data::Value;
 
 using Resource = common::radio::Presets;
 using Element = Resource::PresetObject;
+// The operations are defined under the name of their class, by which they are searched for.
+using PresetObject = Element;
 
 constexpr internal::Target referenceTargets[] = {
-    {"time/clocks",
-     internal::handover<Element, common::time::Clocks::ClockObject, &Element::setReference>},
-    {"radio/PRESETS",
-     internal::handover<Element, common::radio::Presets::PresetObject, &Element::setReference>},
+    {
+        "time/clocks",
+        internal::handover<Element, common::time::Clocks::ClockObject, &Element::setReference>,
+    },
+    {
+        "radio/PRESETS",
+        internal::handover<Element, common::radio::Presets::PresetObject, &Element::setReference>,
+    },
 };
 
 constexpr internal::Handover<common::IObjectBase> referenceLastResort =
@@ -109,9 +115,9 @@ std::unique_ptr<Element> Presets::extractElement(unsigned int index)
     return std::move(m_objects[index]);
 }
 
-Element::PresetObject() : IObjectBase("Preset") {}
+PresetObject::PresetObject() : IObjectBase("Preset") {}
 
-Element::~PresetObject()
+PresetObject::~PresetObject()
 {
     internal::release(m_next);
     internal::release(m_origin);
@@ -120,7 +126,7 @@ Element::~PresetObject()
     internal::releaseAll(m_stations);
 }
 
-std::unique_ptr<Value> Element::serialize(SerializationType type) const
+std::unique_ptr<Value> PresetObject::serialize(SerializationType type) const
 {
     if (type == SerializationType::Reference) {
         return internal::makeReference(*this, getUri());
@@ -175,211 +181,211 @@ std::unique_ptr<Value> Element::serialize(SerializationType type) const
     return object.take();
 }
 
-bool Element::deserialize(Value const* value)
+bool PresetObject::deserialize(Value const* value)
 {
     PresetObjectDeserializer visitor(*this);
     visitor.read(value);
     return true;
 }
 
-std::string const& Element::getSPIN() const
+std::string const& PresetObject::getSPIN() const
 {
     return m_SPIN;
 }
 
-void Element::setSPIN(std::string const& value)
+void PresetObject::setSPIN(std::string const& value)
 {
     m_SPIN = value;
     m_SPIN_isSet = true;
 }
 
-bool Element::isSPINSet() const
+bool PresetObject::isSPINSet() const
 {
     return m_SPIN_isSet;
 }
 
-int Element::getCount() const
+int PresetObject::getCount() const
 {
     return m_count;
 }
 
-void Element::setCount(int value)
+void PresetObject::setCount(int value)
 {
     m_count = value;
     m_count_isSet = true;
 }
 
-bool Element::isCountSet() const
+bool PresetObject::isCountSet() const
 {
     return m_count_isSet;
 }
 
-std::vector<std::string> Element::getCountries() const
+std::vector<std::string> PresetObject::getCountries() const
 {
     return m_countries;
 }
 
-void Element::addCountries(std::string const& value)
+void PresetObject::addCountries(std::string const& value)
 {
     m_countries.push_back(value);
     m_countries_isSet = true;
 }
 
-bool Element::isCountriesSet() const
+bool PresetObject::isCountriesSet() const
 {
     return m_countries_isSet;
 }
 
-bool Element::getDelete() const
+bool PresetObject::getDelete() const
 {
     return m_delete;
 }
 
-void Element::setDelete(bool value)
+void PresetObject::setDelete(bool value)
 {
     m_delete = value;
     m_delete_isSet = true;
 }
 
-bool Element::isDeleteSet() const
+bool PresetObject::isDeleteSet() const
 {
     return m_delete_isSet;
 }
 
-std::vector<int> Element::getFrequencies() const
+std::vector<int> PresetObject::getFrequencies() const
 {
     return m_frequencies;
 }
 
-void Element::addFrequencies(int value)
+void PresetObject::addFrequencies(int value)
 {
     m_frequencies.push_back(value);
     m_frequencies_isSet = true;
 }
 
-bool Element::isFrequenciesSet() const
+bool PresetObject::isFrequenciesSet() const
 {
     return m_frequencies_isSet;
 }
 
-std::string const& Element::getId() const
+std::string const& PresetObject::getId() const
 {
     return m_id;
 }
 
-void Element::setId(std::string const& value)
+void PresetObject::setId(std::string const& value)
 {
     m_id = value;
     m_id_isSet = true;
 }
 
-bool Element::isIdSet() const
+bool PresetObject::isIdSet() const
 {
     return m_id_isSet;
 }
 
-double Element::getLevel() const
+double PresetObject::getLevel() const
 {
     return m_level;
 }
 
-void Element::setLevel(double value)
+void PresetObject::setLevel(double value)
 {
     m_level = value;
     m_level_isSet = true;
 }
 
-bool Element::isLevelSet() const
+bool PresetObject::isLevelSet() const
 {
     return m_level_isSet;
 }
 
-std::string const& Element::getName() const
+std::string const& PresetObject::getName() const
 {
     return m_name;
 }
 
-void Element::setName(std::string const& value)
+void PresetObject::setName(std::string const& value)
 {
     m_name = value;
     m_name_isSet = true;
 }
 
-bool Element::isNameSet() const
+bool PresetObject::isNameSet() const
 {
     return m_name_isSet;
 }
 
-radio::Presets::PresetObject* Element::getNext() const
+radio::Presets::PresetObject* PresetObject::getNext() const
 {
     return m_next;
 }
 
-void Element::setNext(std::unique_ptr<radio::Presets::PresetObject> value)
+void PresetObject::setNext(std::unique_ptr<radio::Presets::PresetObject> value)
 {
     m_next = value.release();
     m_next_isSet = true;
 }
 
-bool Element::isNextSet() const
+bool PresetObject::isNextSet() const
 {
     return m_next_isSet;
 }
 
-std::string const& Element::getOperator() const
+std::string const& PresetObject::getOperator() const
 {
     return m_operator;
 }
 
-void Element::setOperator(std::string const& value)
+void PresetObject::setOperator(std::string const& value)
 {
     m_operator = value;
     m_operator_isSet = true;
 }
 
-bool Element::isOperatorSet() const
+bool PresetObject::isOperatorSet() const
 {
     return m_operator_isSet;
 }
 
-ExternalResourceObject* Element::getOrigin() const
+ExternalResourceObject* PresetObject::getOrigin() const
 {
     return m_origin;
 }
 
-void Element::setOrigin(std::unique_ptr<ExternalResourceObject> value)
+void PresetObject::setOrigin(std::unique_ptr<ExternalResourceObject> value)
 {
     m_origin = value.release();
     m_origin_isSet = true;
 }
 
-bool Element::isOriginSet() const
+bool PresetObject::isOriginSet() const
 {
     return m_origin_isSet;
 }
 
-std::vector<ExternalResourceObject*> Element::getOrigins() const
+std::vector<ExternalResourceObject*> PresetObject::getOrigins() const
 {
     return m_origins;
 }
 
-void Element::addOrigins(std::unique_ptr<ExternalResourceObject> value)
+void PresetObject::addOrigins(std::unique_ptr<ExternalResourceObject> value)
 {
     internal::append(m_origins, std::move(value));
     m_origins_isSet = true;
 }
 
-bool Element::isOriginsSet() const
+bool PresetObject::isOriginsSet() const
 {
     return m_origins_isSet;
 }
 
-IObjectBase* Element::getReference() const
+IObjectBase* PresetObject::getReference() const
 {
     return m_reference;
 }
 
-void Element::setReference(std::unique_ptr<time::Clocks::ClockObject> value)
+void PresetObject::setReference(std::unique_ptr<time::Clocks::ClockObject> value)
 {
     m_reference = value.release();
     m_reference_isTimeClocksClockObject = true;
@@ -387,7 +393,7 @@ void Element::setReference(std::unique_ptr<time::Clocks::ClockObject> value)
     m_reference_isRadioPresetsPresetObject = false;
 }
 
-void Element::setReference(std::unique_ptr<ExternalResourceObject> value)
+void PresetObject::setReference(std::unique_ptr<ExternalResourceObject> value)
 {
     m_reference = value.release();
     m_reference_isTimeClocksClockObject = false;
@@ -395,7 +401,7 @@ void Element::setReference(std::unique_ptr<ExternalResourceObject> value)
     m_reference_isRadioPresetsPresetObject = false;
 }
 
-void Element::setReference(std::unique_ptr<radio::Presets::PresetObject> value)
+void PresetObject::setReference(std::unique_ptr<radio::Presets::PresetObject> value)
 {
     m_reference = value.release();
     m_reference_isTimeClocksClockObject = false;
@@ -403,49 +409,49 @@ void Element::setReference(std::unique_ptr<radio::Presets::PresetObject> value)
     m_reference_isRadioPresetsPresetObject = true;
 }
 
-bool Element::isTimeClocksClockObjectReferenceSet() const
+bool PresetObject::isTimeClocksClockObjectReferenceSet() const
 {
     return m_reference_isTimeClocksClockObject;
 }
 
-bool Element::isExternalResourceObjectReferenceSet() const
+bool PresetObject::isExternalResourceObjectReferenceSet() const
 {
     return m_reference_isExternalResourceObject;
 }
 
-bool Element::isRadioPresetsPresetObjectReferenceSet() const
+bool PresetObject::isRadioPresetsPresetObjectReferenceSet() const
 {
     return m_reference_isRadioPresetsPresetObject;
 }
 
-std::vector<radio::Stations::StationObject*> Element::getStations() const
+std::vector<radio::Stations::StationObject*> PresetObject::getStations() const
 {
     return m_stations;
 }
 
-void Element::addStations(std::unique_ptr<radio::Stations::StationObject> value)
+void PresetObject::addStations(std::unique_ptr<radio::Stations::StationObject> value)
 {
     internal::append(m_stations, std::move(value));
     m_stations_isSet = true;
 }
 
-bool Element::isStationsSet() const
+bool PresetObject::isStationsSet() const
 {
     return m_stations_isSet;
 }
 
-std::string const& Element::getUri() const
+std::string const& PresetObject::getUri() const
 {
     return m_uri;
 }
 
-void Element::setUri(std::string const& value)
+void PresetObject::setUri(std::string const& value)
 {
     m_uri = value;
     m_uri_isSet = true;
 }
 
-bool Element::isUriSet() const
+bool PresetObject::isUriSet() const
 {
     return m_uri_isSet;
 }

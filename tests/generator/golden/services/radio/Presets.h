@@ -16,27 +16,17 @@ class ZEL_KIV_API Presets : public IResourceBase {
 public:
     class PresetObject;
 
-    /// Makes an empty collection.
     Presets();
     ~Presets() override;
-
-    /// An `Array` of the elements, each in full; the caller owns it. No slot may be null.
     [[nodiscard]] std::unique_ptr<zel::dataformats::data::Value> serialize() const override;
-
-    /// Appends one element for each entry of the `Array` given; true for any value.
     bool deserialize(zel::dataformats::data::Value const* value) override;
-
-    /// The number of slots, emptied ones included.
     [[nodiscard]] std::size_t getNumberOfElements() const override;
 
     /// The slots themselves; null where the element was extracted.
     [[nodiscard]] std::vector<std::unique_ptr<PresetObject>> const& getObjects() const;
-
     /// Appends a slot and takes the element over.
     void addObject(std::unique_ptr<PresetObject> element);
-
-    /// Hands the element in that slot over. The slot stays behind, null; it must not be there when
-    /// the collection is serialized. Null for an index at or beyond the number of slots.
+    /// Hands over the element in that slot, or null if there is none. The slot stays behind, null.
     std::unique_ptr<PresetObject> extractElement(unsigned int index);
 
 private:
@@ -54,172 +44,92 @@ namespace zel::kiv::common::radio {
 /// A preset place, at 20 °C.
 class ZEL_KIV_API Presets::PresetObject : public IObjectBase {
 public:
-    /// Makes an element with no field set.
     PresetObject();
-
-    /// Frees all that the fields hold.
     ~PresetObject() override;
-
-    /// The element as an `Object` of its set fields, or as a `String` of its uri; the caller owns
-    /// it. No field that is set may hold a null element.
     [[nodiscard]] std::unique_ptr<zel::dataformats::data::Value>
     serialize(SerializationType type) const override;
-
-    /// Sets the fields that the `Object` given has, on top of those set already; true for any
-    /// value.
     bool deserialize(zel::dataformats::data::Value const* value) override;
 
-    /// The `SPIN`; empty while it is not set.
+    /// `SPIN`: string, empty while unset.
     [[nodiscard]] std::string const& getSPIN() const;
-
-    /// Sets `SPIN`, whatever the value.
     void setSPIN(std::string const& value);
-
-    /// Whether `SPIN` is set.
     [[nodiscard]] bool isSPINSet() const;
 
-    /// The `count`; zero while it is not set.
+    /// `count`: int, zero while unset. How many there are. It is said in a sentence that is too
+    /// long for one line of a comment: 20 °C.
     [[nodiscard]] int getCount() const;
-
-    /// Sets `count`, whatever the value.
     void setCount(int value);
-
-    /// Whether `count` is set.
     [[nodiscard]] bool isCountSet() const;
 
-    /// A copy of the list `countries`; empty while it is not set.
+    /// `countries`: string list, empty while unset.
     [[nodiscard]] std::vector<std::string> getCountries() const;
-
-    /// Appends to the list `countries`, which is set from then on.
     void addCountries(std::string const& value);
-
-    /// Whether `countries` is set.
     [[nodiscard]] bool isCountriesSet() const;
 
-    /// The `delete`; false while it is not set.
+    /// `delete`: bool, false while unset.
     [[nodiscard]] bool getDelete() const;
-
-    /// Sets `delete`, whatever the value.
     void setDelete(bool value);
-
-    /// Whether `delete` is set.
     [[nodiscard]] bool isDeleteSet() const;
 
-    /// A copy of the list `frequencies`; empty while it is not set.
+    /// `frequencies`: int list, empty while unset.
     [[nodiscard]] std::vector<int> getFrequencies() const;
-
-    /// Appends to the list `frequencies`, which is set from then on.
     void addFrequencies(int value);
-
-    /// Whether `frequencies` is set.
     [[nodiscard]] bool isFrequenciesSet() const;
 
-    /// The `id`; empty while it is not set.
+    /// `id`: string, empty while unset. Its number, not its `name`.
     [[nodiscard]] std::string const& getId() const;
-
-    /// Sets `id`, whatever the value.
     void setId(std::string const& value);
-
-    /// Whether `id` is set.
     [[nodiscard]] bool isIdSet() const;
 
-    /// The `level`; zero while it is not set.
+    /// `level`: double, zero while unset.
     [[nodiscard]] double getLevel() const;
-
-    /// Sets `level`, whatever the value.
     void setLevel(double value);
-
-    /// Whether `level` is set.
     [[nodiscard]] bool isLevelSet() const;
 
-    /// The `name`; empty while it is not set.
+    /// `name`: string, empty while unset.
     [[nodiscard]] std::string const& getName() const;
-
-    /// Sets `name`, whatever the value.
     void setName(std::string const& value);
-
-    /// Whether `name` is set.
     [[nodiscard]] bool isNameSet() const;
 
-    /// The element under `next`, not handed over; null while it is not set.
+    /// `next`: element, null while unset. An element that is replaced is not freed.
     [[nodiscard]] radio::Presets::PresetObject* getNext() const;
-
-    /// Sets `next` and takes the element over. An element held before is not freed: whoever
-    /// replaces it keeps its pointer and frees it.
     void setNext(std::unique_ptr<radio::Presets::PresetObject> value);
-
-    /// Whether `next` is set.
     [[nodiscard]] bool isNextSet() const;
 
-    /// The `operator`; empty while it is not set.
+    /// `operator`: string, empty while unset.
     [[nodiscard]] std::string const& getOperator() const;
-
-    /// Sets `operator`, whatever the value.
     void setOperator(std::string const& value);
-
-    /// Whether `operator` is set.
     [[nodiscard]] bool isOperatorSet() const;
 
-    /// The element under `origin`, not handed over; null while it is not set.
+    /// `origin`: external, null while unset. An element that is replaced is not freed.
     [[nodiscard]] ExternalResourceObject* getOrigin() const;
-
-    /// Sets `origin` and takes the element over. An element held before is not freed: whoever
-    /// replaces it keeps its pointer and frees it.
     void setOrigin(std::unique_ptr<ExternalResourceObject> value);
-
-    /// Whether `origin` is set.
     [[nodiscard]] bool isOriginSet() const;
 
-    /// A copy of the list `origins`; its elements are not handed over. Empty while it is not set.
+    /// `origins`: external list, empty while unset.
     [[nodiscard]] std::vector<ExternalResourceObject*> getOrigins() const;
-
-    /// Appends to the list `origins`, which is set from then on, and takes the element over.
     void addOrigins(std::unique_ptr<ExternalResourceObject> value);
-
-    /// Whether `origins` is set.
     [[nodiscard]] bool isOriginsSet() const;
 
-    /// The element under `reference`, not handed over; null while it is not set. Its class is told
-    /// by the accessors below.
+    /// `reference`: polymorphic, null while unset. A clock of `time::Clocks`, a preset, or an
+    /// `ExternalResourceObject`; `PresetObject`s have `next` too. An element that is replaced is
+    /// not freed.
     [[nodiscard]] IObjectBase* getReference() const;
-
-    /// Sets `reference` to an element of this class and takes it over. An element held before is
-    /// not freed: whoever replaces it keeps its pointer and frees it.
     void setReference(std::unique_ptr<time::Clocks::ClockObject> value);
-
-    /// Sets `reference` to an element of this class and takes it over. An element held before is
-    /// not freed: whoever replaces it keeps its pointer and frees it.
     void setReference(std::unique_ptr<ExternalResourceObject> value);
-
-    /// Sets `reference` to an element of this class and takes it over. An element held before is
-    /// not freed: whoever replaces it keeps its pointer and frees it.
     void setReference(std::unique_ptr<radio::Presets::PresetObject> value);
-
-    /// Whether `reference` holds a `time::Clocks::ClockObject`.
     [[nodiscard]] bool isTimeClocksClockObjectReferenceSet() const;
-
-    /// Whether `reference` holds a `ExternalResourceObject`.
     [[nodiscard]] bool isExternalResourceObjectReferenceSet() const;
-
-    /// Whether `reference` holds a `radio::Presets::PresetObject`.
     [[nodiscard]] bool isRadioPresetsPresetObjectReferenceSet() const;
 
-    /// A copy of the list `stations`; its elements are not handed over. Empty while it is not set.
+    /// `stations`: element list, empty while unset.
     [[nodiscard]] std::vector<radio::Stations::StationObject*> getStations() const;
-
-    /// Appends to the list `stations`, which is set from then on, and takes the element over.
     void addStations(std::unique_ptr<radio::Stations::StationObject> value);
-
-    /// Whether `stations` is set.
     [[nodiscard]] bool isStationsSet() const;
 
-    /// The `uri`; empty while it is not set.
+    /// `uri`: string, empty while unset.
     [[nodiscard]] std::string const& getUri() const;
-
-    /// Sets `uri`, whatever the value.
     void setUri(std::string const& value);
-
-    /// Whether `uri` is set.
     [[nodiscard]] bool isUriSet() const;
 
 private:

@@ -19,6 +19,8 @@ using zel::dataformats::data::Value;
 
 using Resource = common::radio::Stations;
 using Element = Resource::StationObject;
+// The operations are defined under the name of their class, by which they are searched for.
+using StationObject = Element;
 
 class StationObjectDeserializer final : public internal::ElementVisitor {
 public:
@@ -88,14 +90,14 @@ std::unique_ptr<Element> Stations::extractElement(unsigned int index)
     return std::move(m_objects[index]);
 }
 
-Element::StationObject() : IObjectBase("stationObject") {}
+StationObject::StationObject() : IObjectBase("stationObject") {}
 
-Element::~StationObject()
+StationObject::~StationObject()
 {
     internal::releaseAll(m_presets);
 }
 
-std::unique_ptr<Value> Element::serialize(SerializationType type) const
+std::unique_ptr<Value> StationObject::serialize(SerializationType type) const
 {
     if (type == SerializationType::Reference) {
         return internal::makeReference(*this, getUri());
@@ -116,73 +118,73 @@ std::unique_ptr<Value> Element::serialize(SerializationType type) const
     return object.take();
 }
 
-bool Element::deserialize(Value const* value)
+bool StationObject::deserialize(Value const* value)
 {
     StationObjectDeserializer visitor(*this);
     visitor.read(value);
     return true;
 }
 
-std::string const& Element::getId() const
+std::string const& StationObject::getId() const
 {
     return m_id;
 }
 
-void Element::setId(std::string const& value)
+void StationObject::setId(std::string const& value)
 {
     m_id = value;
     m_id_isSet = true;
 }
 
-bool Element::isIdSet() const
+bool StationObject::isIdSet() const
 {
     return m_id_isSet;
 }
 
-std::string const& Element::getName() const
+std::string const& StationObject::getName() const
 {
     return m_name;
 }
 
-void Element::setName(std::string const& value)
+void StationObject::setName(std::string const& value)
 {
     m_name = value;
     m_name_isSet = true;
 }
 
-bool Element::isNameSet() const
+bool StationObject::isNameSet() const
 {
     return m_name_isSet;
 }
 
-std::vector<radio::Presets::PresetObject*> Element::getPresets() const
+std::vector<radio::Presets::PresetObject*> StationObject::getPresets() const
 {
     return m_presets;
 }
 
-void Element::addPresets(std::unique_ptr<radio::Presets::PresetObject> value)
+void StationObject::addPresets(std::unique_ptr<radio::Presets::PresetObject> value)
 {
     internal::append(m_presets, std::move(value));
     m_presets_isSet = true;
 }
 
-bool Element::isPresetsSet() const
+bool StationObject::isPresetsSet() const
 {
     return m_presets_isSet;
 }
 
-std::string const& Element::getUri() const
+std::string const& StationObject::getUri() const
 {
     return m_uri;
 }
 
-void Element::setUri(std::string const& value)
+void StationObject::setUri(std::string const& value)
 {
     m_uri = value;
     m_uri_isSet = true;
 }
 
-bool Element::isUriSet() const
+bool StationObject::isUriSet() const
 {
     return m_uri_isSet;
 }

@@ -19,6 +19,8 @@ using zel::dataformats::data::Value;
 
 using Resource = common::time::Clocks;
 using Element = Resource::ClockObject;
+// The operations are defined under the name of their class, by which they are searched for.
+using ClockObject = Element;
 
 class ClockObjectDeserializer final : public internal::ElementVisitor {
 public:
@@ -87,11 +89,11 @@ std::unique_ptr<Element> Clocks::extractElement(unsigned int index)
     return std::move(m_objects[index]);
 }
 
-Element::ClockObject() : IObjectBase("clockObject") {}
+ClockObject::ClockObject() : IObjectBase("clockObject") {}
 
-Element::~ClockObject() = default;
+ClockObject::~ClockObject() = default;
 
-std::unique_ptr<Value> Element::serialize(SerializationType type) const
+std::unique_ptr<Value> ClockObject::serialize(SerializationType type) const
 {
     if (type == SerializationType::Reference) {
         return internal::makeReference(*this, getUri());
@@ -109,57 +111,57 @@ std::unique_ptr<Value> Element::serialize(SerializationType type) const
     return object.take();
 }
 
-bool Element::deserialize(Value const* value)
+bool ClockObject::deserialize(Value const* value)
 {
     ClockObjectDeserializer visitor(*this);
     visitor.read(value);
     return true;
 }
 
-std::string const& Element::getId() const
+std::string const& ClockObject::getId() const
 {
     return m_id;
 }
 
-void Element::setId(std::string const& value)
+void ClockObject::setId(std::string const& value)
 {
     m_id = value;
     m_id_isSet = true;
 }
 
-bool Element::isIdSet() const
+bool ClockObject::isIdSet() const
 {
     return m_id_isSet;
 }
 
-std::string const& Element::getName() const
+std::string const& ClockObject::getName() const
 {
     return m_name;
 }
 
-void Element::setName(std::string const& value)
+void ClockObject::setName(std::string const& value)
 {
     m_name = value;
     m_name_isSet = true;
 }
 
-bool Element::isNameSet() const
+bool ClockObject::isNameSet() const
 {
     return m_name_isSet;
 }
 
-std::string const& Element::getUri() const
+std::string const& ClockObject::getUri() const
 {
     return m_uri;
 }
 
-void Element::setUri(std::string const& value)
+void ClockObject::setUri(std::string const& value)
 {
     m_uri = value;
     m_uri_isSet = true;
 }
 
-bool Element::isUriSet() const
+bool ClockObject::isUriSet() const
 {
     return m_uri_isSet;
 }

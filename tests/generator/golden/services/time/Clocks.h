@@ -16,27 +16,17 @@ class ZEL_KIV_API Clocks : public IResourceBase {
 public:
     class ClockObject;
 
-    /// Makes an empty collection.
     Clocks();
     ~Clocks() override;
-
-    /// An `Array` of the elements, each in full; the caller owns it. No slot may be null.
     [[nodiscard]] std::unique_ptr<zel::dataformats::data::Value> serialize() const override;
-
-    /// Appends one element for each entry of the `Array` given; true for any value.
     bool deserialize(zel::dataformats::data::Value const* value) override;
-
-    /// The number of slots, emptied ones included.
     [[nodiscard]] std::size_t getNumberOfElements() const override;
 
     /// The slots themselves; null where the element was extracted.
     [[nodiscard]] std::vector<std::unique_ptr<ClockObject>> const& getObjects() const;
-
     /// Appends a slot and takes the element over.
     void addObject(std::unique_ptr<ClockObject> element);
-
-    /// Hands the element in that slot over. The slot stays behind, null; it must not be there when
-    /// the collection is serialized. Null for an index at or beyond the number of slots.
+    /// Hands over the element in that slot, or null if there is none. The slot stays behind, null.
     std::unique_ptr<ClockObject> extractElement(unsigned int index);
 
 private:
@@ -50,46 +40,25 @@ namespace zel::kiv::common::time {
 /// A clock. It has no fields of its own.
 class ZEL_KIV_API Clocks::ClockObject : public IObjectBase {
 public:
-    /// Makes an element with no field set.
     ClockObject();
-
-    /// Frees all that the fields hold.
     ~ClockObject() override;
-
-    /// The element as an `Object` of its set fields, or as a `String` of its uri; the caller owns
-    /// it. No field that is set may hold a null element.
     [[nodiscard]] std::unique_ptr<zel::dataformats::data::Value>
     serialize(SerializationType type) const override;
-
-    /// Sets the fields that the `Object` given has, on top of those set already; true for any
-    /// value.
     bool deserialize(zel::dataformats::data::Value const* value) override;
 
-    /// The `id`; empty while it is not set.
+    /// `id`: string, empty while unset.
     [[nodiscard]] std::string const& getId() const;
-
-    /// Sets `id`, whatever the value.
     void setId(std::string const& value);
-
-    /// Whether `id` is set.
     [[nodiscard]] bool isIdSet() const;
 
-    /// The `name`; empty while it is not set.
+    /// `name`: string, empty while unset.
     [[nodiscard]] std::string const& getName() const;
-
-    /// Sets `name`, whatever the value.
     void setName(std::string const& value);
-
-    /// Whether `name` is set.
     [[nodiscard]] bool isNameSet() const;
 
-    /// The `uri`; empty while it is not set.
+    /// `uri`: string, empty while unset.
     [[nodiscard]] std::string const& getUri() const;
-
-    /// Sets `uri`, whatever the value.
     void setUri(std::string const& value);
-
-    /// Whether `uri` is set.
     [[nodiscard]] bool isUriSet() const;
 
 private:

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "generator/pages/Pages.h"
+#include "generator/pages/Outputs.h"
 
 #include <cstddef>
 #include <filesystem>

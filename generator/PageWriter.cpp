@@ -1,4 +1,6 @@
-#include "generator/Output.h"
+#include "generator/PageWriter.h"
+
+#include "generator/pages/Pages.h"
 
 #include <cerrno>
 #include <fcntl.h>
