@@ -5,13 +5,17 @@
 #include "text/Suggestion.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <map>
+#include <span>
 #include <tuple>
 #include <unordered_map>
 #include <utility>
 
 namespace kivgen {
 namespace {
+
+namespace fs = std::filesystem;
 
 /// Finds out what is wrong with a target.
 class TargetCheck {
@@ -20,6 +24,12 @@ public:
 
     [[nodiscard]] bool exists(std::string const& target) const;
     [[nodiscard]] std::string whatIsWrong(std::string const& target) const;
+
+    /// Whether there is a file for it whose name has the wrong case.
+    [[nodiscard]] bool isMisnamed(std::string const& target) const;
+
+    /// Whether it may have been a resource whose file was removed or renamed.
+    [[nodiscard]] bool mayHaveBeen(std::string const& target) const;
 
 private:
     std::vector<std::string_view> m_names;
@@ -43,6 +53,23 @@ bool TargetCheck::exists(std::string const& target) const
     return std::ranges::binary_search(m_names, target);
 }
 
+bool TargetCheck::isMisnamed(std::string const& target) const
+{
+    auto const colons = target.find("::");
+    return colons != std::string::npos && std::ranges::any_of(m_names, [&](auto name) {
+               return name.size() > colons + 2 && !hasClassForm(name.substr(colons + 2)) &&
+                      std::string(name.substr(0, colons + 2)) + stemOf(name.substr(colons + 2)) ==
+                          target;
+           });
+}
+
+bool TargetCheck::mayHaveBeen(std::string const& target) const
+{
+    auto const colons = target.find("::");
+    return colons != std::string::npos && hasServiceForm(target.substr(0, colons)) &&
+           hasClassForm(target.substr(colons + 2)) && !m_resourceOf.contains(target);
+}
+
 std::string TargetCheck::whatIsWrong(std::string const& target) const
 {
     if (auto const found = m_resourceOf.find(target); found != m_resourceOf.end()) {
@@ -59,6 +86,30 @@ std::string TargetCheck::whatIsWrong(std::string const& target) const
         std::ranges::find_if(m_names, [&](auto name) { return name.ends_with("::" + target); });
     return named == m_names.end() ? text + meant
                                   : text + "; did you mean " + inQuotes(*named) + "?";
+}
+
+std::vector<Mention> mentionIf(bool isWanted, SourcePosition const& place, std::string const& text)
+{
+    return isWanted ? std::vector<Mention>{{place, text}} : std::vector<Mention>{};
+}
+
+/// That no file stands for a target which several fields hold.
+Fault missingFile(std::string const& target, std::string const& what,
+                  std::vector<SourcePosition> const& places)
+{
+    constexpr std::size_t mostPlaces = 20;
+    auto const services = fs::path{places.front().file}.parent_path().parent_path();
+    auto const colons = target.find("::");
+    auto const file = services / target.substr(0, colons) / (target.substr(colons + 2) + ".toml");
+    Fault fault{{file.generic_string()},
+                "is missing: " + what + "; " + std::to_string(places.size()) + " fields hold it",
+                {},
+                true};
+    for (SourcePosition const& place :
+         std::span{places}.first(std::min(places.size(), mostPlaces))) {
+        fault.also.push_back({place, "held here"});
+    }
+    return fault;
 }
 
 /// The field that stands further down in the file.
@@ -91,9 +142,13 @@ void checkAccessorsOf(Resource const& resource, Interface const& interface, Faul
             } else {
                 Field const& lower = lowerOf(field, *owner);
                 Field const& upper = &lower == owner ? field : *owner;
-                faults.push_back({lower.place, "the key " + inQuotes(lower.key) +
-                                                   " gives the accessor " + inQuotes(name) +
-                                                   ", which " + inQuotes(upper.key) + " has too"});
+                bool const isWritten = upper.place.line != 0;
+                faults.push_back(
+                    {lower.place,
+                     "the key " + inQuotes(lower.key) + " gives the accessor " + inQuotes(name) +
+                         ", which " + inQuotes(upper.key) +
+                         (isWritten ? " has too" : ", a key of every element, has too"),
+                     mentionIf(isWritten, upper.place, inQuotes(upper.key) + " stands here")});
             }
             break; // the others of the same field say nothing new
         }
@@ -105,16 +160,28 @@ void checkAccessorsOf(Resource const& resource, Interface const& interface, Faul
 void checkTargets(std::vector<Definition> const& definitions, std::vector<std::string> const& names,
                   Faults& faults)
 {
-    std::size_t wrong = 0;
+    std::map<std::string, std::vector<SourcePosition>> missing; // by how the target is spelt
     TargetCheck const check{definitions, names};
     for (Definition const& definition : definitions) {
         for (Use const& use : definition.uses) {
             if (!check.exists(use.text)) {
-                ++wrong;
-                faults.push_back({use.place, wrong <= mostSuggestions
-                                                 ? check.whatIsWrong(use.text)
-                                                 : "there is no resource " + inQuotes(use.text)});
+                missing[use.text].push_back(use.place);
             }
+        }
+    }
+    std::size_t wrong = 0;
+    for (auto const& [target, places] : missing) {
+        if (check.isMisnamed(target)) {
+            continue; // the name of its file is told of
+        }
+        auto const what = ++wrong <= mostSuggestions ? check.whatIsWrong(target)
+                                                     : "there is no resource " + inQuotes(target);
+        if (places.size() > 1 && check.mayHaveBeen(target)) {
+            faults.push_back(missingFile(target, what, places));
+            continue;
+        }
+        for (SourcePosition const& place : places) {
+            faults.push_back({place, what});
         }
     }
 }
@@ -136,10 +203,12 @@ void checkResourceKeys(std::vector<Definition> const& definitions, Faults& fault
             std::swap(one, other);
         }
         bool const isSame = one->resource.resourceKey == other->resource.resourceKey;
+        std::string const shown = inQuotes(other->resource.resourceKey);
         faults.push_back({one->placeOfKey,
                           "the resource key " + inQuotes(one->resource.resourceKey) +
                               (isSame ? " is that of " : " is but for its first letter that of ") +
-                              other->resource.place.file + "; uris could not tell them apart"});
+                              other->resource.place.file + "; uris could not tell them apart",
+                          {{other->placeOfKey, shown + " is the key of this resource"}}});
     }
 }
 

@@ -48,6 +48,7 @@ void Collection::addDefinition(std::optional<Node> const& document, std::string 
 {
     checkResourceName(name, place);
     m_names.push_back(service + "::" + name);
+    m_isWhole = m_isWhole && (!document || document->isWhole);
     if (document) {
         m_definitions.push_back(readDefinition(*document, service, name, place, m_faults));
     }
@@ -76,9 +77,14 @@ void Collection::checkWhole(Interface const& interface)
     checkTargets(m_definitions, m_names, m_faults);
     checkResourceKeys(m_definitions, m_faults);
     checkAccessors(interface, m_faults);
-    checkProseNames(m_definitions, m_services, m_names, m_faults);
+    if (m_isWhole) {
+        checkProseNames(m_definitions, m_services, m_names, m_faults);
+    }
     std::ranges::stable_sort(m_faults, {}, [](Fault const& one) {
-        return std::tie(one.place.file, one.place.line, one.place.column, one.text);
+        using Rank =
+            std::tuple<bool, std::string const&, std::size_t, std::size_t, std::string const&>;
+        auto const& place = one.place;
+        return Rank{!one.isCause, place.file, place.line, place.column, one.text};
     });
 }
 

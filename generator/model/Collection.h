@@ -36,12 +36,13 @@ private:
     void checkWhole(Interface const& interface);
     void fail(SourcePosition const& place, std::string text)
     {
-        m_faults.push_back({place, std::move(text)});
+        m_faults.push_back({place, std::move(text), {}, true}); // of a name, which others go by
     }
 
     std::vector<Definition> m_definitions;
     std::vector<ServiceFile> m_services;
     std::vector<std::string> m_names; ///< of all definitions, also of those that cannot be read
+    bool m_isWhole = true;            ///< whether no definition was read in part alone
     Faults m_faults;
 };
 

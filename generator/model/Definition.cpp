@@ -35,12 +35,21 @@ private:
         m_faults.push_back({place, std::move(text)});
     }
 
+    /// Of a file that could not be read whole nobody knows what is missing.
+    void miss(std::string text)
+    {
+        if (m_definition.isWhole) {
+            fail(m_definition.resource.place, std::move(text));
+        }
+    }
+
     Definition& m_definition;
     Faults& m_faults;
 };
 
 void Reader::read(Node const& document)
 {
+    m_definition.isWhole = document.isWhole;
     checkKeys(document, knownKeys,
               "; a definition has 'element', 'about', [fields] and at need [notes], "
               "'resource_key' and 'element_key'",
@@ -52,13 +61,12 @@ void Reader::read(Node const& document)
     if (auto const* const element = find(document, "element")) {
         readElement(*element);
     } else {
-        fail(resource.place, "'element' is missing; it names the element class: element = "
-                             "\"PresetObject\"");
+        miss("'element' is missing; it names the element class: element = \"PresetObject\"");
     }
     if (auto const* const about = find(document, "about")) {
         readAbout(*about);
     } else {
-        fail(resource.place, std::string{"'about' is missing; "} + saysOfAbout);
+        miss(std::string{"'about' is missing; "} + saysOfAbout);
     }
     resource.resourceKey = lowered(resource.name);
     if (auto const* const key = find(document, "resource_key")) {
@@ -72,8 +80,8 @@ void Reader::read(Node const& document)
     if (auto const* const fields = find(document, "fields")) {
         readFields(*fields, m_definition, m_faults);
     } else {
-        fail(resource.place, "[fields] is missing; it stands empty if the element has no fields "
-                             "but id, name and uri");
+        miss("[fields] is missing; it stands empty if the element has no fields but id, name and "
+             "uri");
     }
     std::ranges::sort(resource.fields, {}, &Field::key);
     if (auto const* const notes = find(document, "notes")) {
@@ -119,7 +127,7 @@ void Reader::readNotes(Entry const& entry)
     std::size_t wrong = 0;
     for (Entry const& row : entry.value.table) {
         auto const shown = inQuotes(row.key);
-        if (!m_definition.keys.contains(row.key)) {
+        if (m_definition.isWhole && !m_definition.keys.contains(row.key)) {
             std::vector<std::string_view> known;
             if (++wrong <= mostSuggestions) {
                 known.assign(m_definition.keys.begin(), m_definition.keys.end());

@@ -26,6 +26,7 @@ struct Definition {
     SourcePosition placeOfKey;  ///< where `resource_key` is given, or the file as a whole
     std::set<std::string> keys; ///< of all fields, also of those whose row is faulty
     std::vector<Prose> prose;   ///< what it says to people
+    bool isWhole = true;        ///< whether nothing of the file was left out that could not be read
 };
 
 /// Takes a definition out of the table of its file, `id`, `name` and `uri` added. Whatever is wrong

@@ -1,15 +1,25 @@
 #include "generator/model/Fault.h"
 
 namespace kivgen {
+namespace {
+
+std::string shown(SourcePosition const& place)
+{
+    if (place.line == 0) {
+        return place.file;
+    }
+    return place.file + ':' + std::to_string(place.line) + ':' + std::to_string(place.column);
+}
+
+} // namespace
 
 std::string toMessage(Fault const& fault)
 {
-    std::string message = fault.place.file;
-    if (fault.place.line != 0) {
-        message += ":" + std::to_string(fault.place.line);
-        message += ":" + std::to_string(fault.place.column);
+    std::string message = shown(fault.place) + ": error: " + fault.text;
+    for (Mention const& each : fault.also) {
+        message += '\n' + shown(each.place) + ": note: " + each.text;
     }
-    return message + ": error: " + fault.text;
+    return message;
 }
 
 } // namespace kivgen

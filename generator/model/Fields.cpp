@@ -1,12 +1,14 @@
 #include "generator/model/Fields.h"
 
+#include "generator/Naming.h"
 #include "generator/model/Rows.h"
 #include "generator/model/Spelling.h"
+#include "text/Phrases.h"
 #include "text/Suggestion.h"
 
 #include <algorithm>
 #include <array>
-#include <set>
+#include <map>
 #include <utility>
 
 namespace kivgen {
@@ -17,6 +19,21 @@ using zel::kiv::catalogue::kindOf;
 using zel::kiv::catalogue::kindWords;
 
 constexpr std::array<std::string_view, 3> targetKeys{"element", "element_list", "polymorphic"};
+
+/// What other languages call a kind.
+struct OtherWord {
+    std::string_view word;
+    std::string_view kind;
+};
+
+constexpr std::array<OtherWord, 21> otherWords{{
+    {"array", "string list"},  {"boolean", "bool"}, {"byte", "int"},      {"char", "string"},
+    {"enum", "string"},        {"flag", "bool"},    {"float", "double"},  {"integer", "int"},
+    {"list", "string list"},   {"long", "int"},     {"number", "double"}, {"real", "double"},
+    {"reference", "external"}, {"short", "int"},    {"str", "string"},    {"text", "string"},
+    {"uint", "int"},           {"unsigned", "int"}, {"uri", "external"},  {"url", "string"},
+    {"uuid", "string"},
+}};
 
 class Reader {
 public:
@@ -89,6 +106,64 @@ void Reader::readRow(Entry const& row)
     }
 }
 
+/// Whether a field of that kind is written as a table, since it names what it holds.
+bool needsTable(Kind kind)
+{
+    switch (kind) {
+    case Kind::Element:
+    case Kind::ElementList:
+    case Kind::Polymorphic:
+        return true;
+    case Kind::String:
+    case Kind::Int:
+    case Kind::Double:
+    case Kind::Bool:
+    case Kind::StringList:
+    case Kind::IntList:
+    case Kind::External:
+    case Kind::ExternalList:
+        break;
+    }
+    return false;
+}
+
+/// What would be right instead of a word that is no kind.
+std::string instead(std::string_view word)
+{
+    std::string small{word};
+    std::ranges::transform(small, small.begin(), [](char each) { return lowered({&each, 1})[0]; });
+    if (kindOf(small)) {
+        return "; kinds are written in small letters, " + inQuotes(small);
+    }
+    auto const* const other = std::ranges::find(otherWords, small, &OtherWord::word);
+    if (other != otherWords.end()) {
+        return "; what it means is " + inQuotes(other->kind) + " here";
+    }
+    auto const meant = didYouMean(word, kindWords);
+    if (!meant.empty()) {
+        return meant;
+    }
+    std::vector<std::string> words;
+    for (Kind const kind : zel::kiv::catalogue::kinds) {
+        if (!needsTable(kind)) {
+            words.push_back(inQuotes(wordOf(kind)));
+        }
+    }
+    return "; a word is one of " + kiv::listed(words, "and");
+}
+
+/// How a field is written that names what it holds.
+std::string asTable(Kind kind)
+{
+    if (kind == Kind::Polymorphic) {
+        return "a polymorphic field names its targets: { polymorphic = [\"service::Resource\", "
+               "\"external\"] }";
+    }
+    bool const isList = zel::kiv::catalogue::isList(kind);
+    return std::string(isList ? "an element list" : "an element field") +
+           " names its target: " + spelt(isList ? "element_list" : "element", "service::Resource");
+}
+
 void Reader::readWord(Node const& value, Field field)
 {
     auto const kind = kindOf(value.text);
@@ -96,21 +171,9 @@ void Reader::readWord(Node const& value, Field field)
         fail(value.place, inQuotes(value.text) + " is no kind; a field that holds an element is " +
                               spelt("element", "service::Resource"));
     } else if (!kind) {
-        auto const meant = didYouMean(value.text, kindWords);
-        fail(value.place, "unknown kind " + inQuotes(value.text) +
-                              (meant.empty() ? "; the plain kinds are 'string', 'int', 'double', "
-                                               "'bool', 'string list', 'int list', 'external' and "
-                                               "'external list'"
-                                             : meant));
-    } else if (*kind == Kind::Element) {
-        fail(value.place,
-             "an element field names its target: " + spelt("element", "service::Resource"));
-    } else if (*kind == Kind::ElementList) {
-        fail(value.place,
-             "an element list names its target: " + spelt("element_list", "service::Resource"));
-    } else if (*kind == Kind::Polymorphic) {
-        fail(value.place, "a polymorphic field names its targets: { polymorphic = "
-                          "[\"service::Resource\", \"external\"] }");
+        fail(value.place, "unknown kind " + inQuotes(value.text) + instead(value.text));
+    } else if (needsTable(*kind)) {
+        fail(value.place, asTable(*kind));
     } else {
         field.kind = *kind;
         if (zel::kiv::catalogue::isNested(*kind)) {
@@ -191,19 +254,22 @@ void Reader::readTargets(Node const& value, Field& field)
              "'polymorphic' takes an array of targets, not " + std::string{value.typeName});
         return;
     }
-    if (value.list.size() < 2) {
+    if (value.list.size() < 2 && m_definition.isWhole) {
         fail(value.place, "a polymorphic field has two targets or more");
     }
-    std::set<std::string_view> seen;
+    std::map<std::string_view, SourcePosition> seen;
     for (Node const& target : value.list) {
         if (!isTarget(target)) {
             continue;
         }
-        if (seen.insert(target.text).second) {
+        auto const [first, isNew] = seen.try_emplace(target.text, target.place);
+        if (isNew) {
             addTarget(target, field);
         } else {
-            fail(target.place, "the target " + inQuotes(target.text) +
-                                   " stands here a second time; keep one of the two");
+            m_faults.push_back({target.place,
+                                "the target " + inQuotes(target.text) +
+                                    " stands here a second time; keep one of the two",
+                                {{first->second, "it stands here first"}}});
         }
     }
 }

@@ -49,9 +49,10 @@ void checkOrder(Node const& table, Faults& faults)
     Entry const* previous = nullptr;
     for (Entry const& row : table.table) {
         if (previous != nullptr && row.key < previous->key) {
-            faults.push_back({row.place, inQuotes(row.key) + " stands after " +
-                                             inQuotes(previous->key) +
-                                             "; rows stand in ascending byte order of their keys"});
+            faults.push_back({row.place,
+                              inQuotes(row.key) + " stands after " + inQuotes(previous->key) +
+                                  "; rows stand in ascending byte order of their keys",
+                              {{previous->place, inQuotes(previous->key) + " stands here"}}});
         }
         previous = &row;
     }

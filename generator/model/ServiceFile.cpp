@@ -49,13 +49,13 @@ ServiceFile readServiceFile(Node const& document, std::string const& service,
     if (auto const* const about = find(document, "about")) {
         result.about = readProse(*about, {"'about'", says, longestAbout}, faults);
         result.service.about = result.about.text;
-    } else {
+    } else if (document.isWhole) {
         std::string const missing = "'about' is missing; ";
         faults.push_back({file, missing + says});
     }
     if (auto const* const group = find(document, "group")) {
         readGroup(*group, result.service, faults);
-    } else {
+    } else if (document.isWhole) {
         faults.push_back({file, "'group' is missing; it is " + allGroups()});
     }
     return result;

@@ -1,6 +1,7 @@
 #include "generator/model/TomlReader.h"
 
 #include "generator/Naming.h"
+#include "generator/model/TomlText.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -27,7 +28,7 @@ namespace kivgen {
 namespace {
 
 constexpr std::size_t largestFile = std::size_t{4} << 20U;
-constexpr std::size_t longestLine = 1000; // bytes
+constexpr int mostSyntaxFaults = 10; // of one file
 
 std::optional<std::string> readText(std::filesystem::path const& path, std::string const& name,
                                     Faults& faults)
@@ -53,39 +54,6 @@ std::optional<std::string> readText(std::filesystem::path const& path, std::stri
     return text;
 }
 
-bool isPlain(char byte)
-{
-    return (byte >= ' ' && byte <= '~') || byte == '\t' || byte == '\n' || byte == '\r';
-}
-
-/// Keeps from toml++ what it cannot bear: its tables of other characters end in undefined behaviour
-/// for some of them. So definitions are ASCII, which also keeps out characters that deceive the
-/// eye.
-bool isReadable(std::string const& text, std::string const& name, Faults& faults)
-{
-    std::size_t number = 1;
-    for (auto line = text.begin(); line != text.end(); ++number) {
-        auto const end = std::find(line, text.end(), '\n');
-        auto const stranger = std::find_if_not(line, end, isPlain);
-        auto const column = static_cast<std::size_t>(stranger - line) + 1;
-        if (column > longestLine + 1) {
-            faults.push_back(
-                {{name, number, longestLine + 1},
-                 "the line is longer than " + std::to_string(longestLine) + " bytes; break it up"});
-            return false;
-        }
-        if (stranger != end) {
-            faults.push_back({{name, number, column},
-                              "the byte " + inQuotes({stranger, stranger + 1}) +
-                                  " is not plain ASCII; in 'about' another character is written as "
-                                  "an escape, such as \\u00b0"});
-            return false;
-        }
-        line = end == text.end() ? end : end + 1;
-    }
-    return true;
-}
-
 SourcePosition placeOf(std::string const& name, toml::source_position position)
 {
     return {name, position.line, position.column};
@@ -93,21 +61,44 @@ SourcePosition placeOf(std::string const& name, toml::source_position position)
 
 /// The parser notices a key that is there already behind it, at the equals sign or the value. The
 /// key itself begins its line, unless it stands in an inline table.
-std::size_t columnOfKey(std::string const& text, SourcePosition const& noticed)
+std::size_t columnOfKey(std::string_view line, SourcePosition const& noticed)
 {
-    std::size_t begin = 0;
-    for (std::size_t line = 1; line < noticed.line; ++line) {
-        begin = text.find('\n', begin) + 1;
-    }
-    auto const before = std::string_view{text}.substr(begin, noticed.column);
+    auto const before = line.substr(0, noticed.column);
     auto const first = before.find_first_not_of(" \t");
     bool const isInline = before.find('{') != std::string_view::npos;
     return isInline || first == std::string_view::npos ? noticed.column : first + 1;
 }
 
-Fault faultOf(toml::parse_error const& error, std::string const& text, std::string const& name)
+bool isLetter(char each)
+{
+    return (each >= 'a' && each <= 'z') || (each >= 'A' && each <= 'Z');
+}
+
+bool isOfWords(char each)
+{
+    return isLetter(each) || (each >= '0' && each <= '9') || each == '_' || each == ':' ||
+           each == ' ';
+}
+
+/// The words that stand behind the equals sign where a text in quotes is meant, or nothing.
+std::string_view bareWords(std::string_view line)
+{
+    line = line.substr(0, line.find('#'));
+    auto const equals = line.find('=');
+    auto const begin =
+        line.find_first_not_of(" \t", equals == std::string_view::npos ? 0 : equals + 1);
+    auto const end = line.find_last_not_of(" \t\r") + 1;
+    if (equals == std::string_view::npos || begin >= end || !isLetter(line[begin])) {
+        return {};
+    }
+    auto const words = line.substr(begin, end - begin);
+    return std::ranges::all_of(words, isOfWords) ? words : std::string_view{};
+}
+
+Fault faultOf(toml::parse_error const& error, TomlText const& text, std::string const& name)
 {
     auto place = placeOf(name, error.source().begin);
+    auto const line = text.line(place.line);
     std::string_view const description = error.description();
     if (description.find("TOML_MAX_NESTED_VALUES") != std::string_view::npos) {
         return {place, "tables and arrays are nested deeper than any definition needs"};
@@ -115,13 +106,25 @@ Fault faultOf(toml::parse_error const& error, std::string const& text, std::stri
     if (description.find("unescaped control characters") != std::string_view::npos) {
         return {place, "is not TOML: the string is not closed on its line"}; // a line break
     }
+    if (auto const words = bareWords(line); !words.empty()) {
+        place.column = static_cast<std::size_t>(words.data() - line.data()) + 1;
+        return {place, "a text stands in quotes: \"" + std::string(words) + '"'};
+    }
     if (description.find("cannot redefine") == std::string_view::npos) {
         return {place, "is not TOML: " + printable(lowered(description))};
     }
-    place.column = columnOfKey(text, place);
+    place.column = columnOfKey(line, place);
     auto const open = description.find('\'') + 1;
     auto const key = description.substr(open, description.rfind('\'') - open);
     return {place, "the key " + inQuotes(key) + " stands here a second time; keep one of the two"};
+}
+
+/// Whether the fault lies in that line. If not it lies above, in what the line is taken for a part
+/// of.
+bool isFaultyAlone(std::string_view line, toml::parse_error const& error)
+{
+    bool const isRepeated = error.description().find("cannot redefine") != std::string_view::npos;
+    return isRepeated || !toml::parse(line);
 }
 
 std::string_view nameOf(toml::node_type type)
@@ -177,16 +180,26 @@ Node nodeOf(toml::node const& source, std::string const& name)
 std::optional<Node> readToml(std::filesystem::path const& path, std::string const& name,
                              Faults& faults)
 {
-    auto const text = readText(path, name, faults);
-    if (!text || !isReadable(*text, name, faults)) {
+    auto bytes = readText(path, name, faults);
+    if (!bytes) {
         return std::nullopt;
     }
-    auto const result = toml::parse(*text);
-    if (!result) {
-        faults.push_back(faultOf(result.error(), *text, name));
-        return std::nullopt;
+    TomlText text{std::move(*bytes), name};
+    text.leaveOutUnreadable(faults);
+    for (int count = 0; count < mostSyntaxFaults; ++count) {
+        auto const result = toml::parse(text.text());
+        if (result) {
+            Node node = nodeOf(result.table(), name);
+            node.isWhole = text.isWhole();
+            return node;
+        }
+        faults.push_back(faultOf(result.error(), text, name));
+        auto const number = faults.back().place.line;
+        if (!isFaultyAlone(text.line(number), result.error()) || !text.leaveOut(number)) {
+            break;
+        }
     }
-    return nodeOf(result.table(), name);
+    return std::nullopt;
 }
 
 } // namespace kivgen

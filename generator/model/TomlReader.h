@@ -23,6 +23,7 @@ struct Node {
     std::string text;         ///< of a text
     std::vector<Node> list;   ///< of a list
     std::vector<Entry> table; ///< of a table, in the order of the file
+    bool isWhole = true;      ///< of a file: whether nothing was left out that could not be read
 };
 
 /// A key and its value.
@@ -33,7 +34,8 @@ struct Entry {
 };
 
 /// Reads one file into a table. `name` is the file as messages show it. If the file cannot be read,
-/// is too large, or is not TOML, that is added to `faults` and the result is empty.
+/// is too large, or is not TOML, that is added to `faults`. The result then holds the lines that
+/// can be read, or is empty where that is no use.
 std::optional<Node> readToml(std::filesystem::path const& path, std::string const& name,
                              Faults& faults);
 
