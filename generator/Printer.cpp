@@ -171,8 +171,8 @@ Block comment(std::string text)
     });
 }
 
-Block wrapped(std::string head, std::vector<std::string> items, std::string separator,
-              std::string tail)
+Block wrapped(std::string const& head, std::vector<std::string> const& items,
+              std::string const& separator, std::string const& tail)
 {
     auto const longest =
         std::max_element(items.begin(), items.end(), [](auto const& one, auto const& other) {

@@ -57,7 +57,7 @@ Block comment(std::string text);
 /// `head`, the items with `separator` between them, and `tail`, on one line if it is short enough.
 /// Else the items fill the lines, aligned with the end of `head`; where an item is too long for
 /// that they stand further left, behind a break after `head`.
-Block wrapped(std::string head, std::vector<std::string> items, std::string separator,
-              std::string tail);
+Block wrapped(std::string const& head, std::vector<std::string> const& items,
+              std::string const& separator, std::string const& tail);
 
 } // namespace kivgen
