@@ -139,7 +139,7 @@ std::string instead(std::string_view word)
     if (other != otherWords.end()) {
         return "; what it means is " + inQuotes(other->kind) + " here";
     }
-    auto const meant = didYouMean(word, kindWords);
+    auto meant = didYouMean(word, kindWords);
     if (!meant.empty()) {
         return meant;
     }
