@@ -114,7 +114,8 @@ void refuseOtherEncodings(std::string const& file, PositionedStream const& strea
 }
 
 Document read(std::string const& file, ByteSource source, EntryHandler const* handler,
-              WideIntegerHandler const& onWideInteger, Position start)
+              WideIntegerHandler const& onWideInteger, RepeatedKeyHandler const& onRepeatedKey,
+              Position start)
 {
     constexpr unsigned flags = rapidjson::kParseIterativeFlag |
                                rapidjson::kParseValidateEncodingFlag |
@@ -122,7 +123,7 @@ Document read(std::string const& file, ByteSource source, EntryHandler const* ha
     PositionedStream stream(std::move(source), PositionedStream::longestToken, start);
     refuseOtherEncodings(file, stream);
     Document document;
-    ValueBuilder builder(file, stream, document, handler, onWideInteger);
+    ValueBuilder builder(file, stream, document, handler, onWideInteger, onRepeatedKey);
     rapidjson::Reader reader;
     rapidjson::ParseResult const result = reader.Parse<flags>(stream, builder);
     bool const stoppedAtZero = !result.IsError() && !stream.atEnd();
@@ -136,15 +137,16 @@ Document read(std::string const& file, ByteSource source, EntryHandler const* ha
 } // namespace
 
 Document readEntries(std::string const& file, ByteSource source, EntryHandler const& handler,
-                     WideIntegerHandler const& onWideInteger)
+                     WideIntegerHandler const& onWideInteger,
+                     RepeatedKeyHandler const& onRepeatedKey)
 {
-    return read(file, std::move(source), &handler, onWideInteger, {});
+    return read(file, std::move(source), &handler, onWideInteger, onRepeatedKey, {});
 }
 
 Document readDocument(std::string const& file, ByteSource source, Position start,
                       WideIntegerHandler const& onWideInteger)
 {
-    return read(file, std::move(source), nullptr, onWideInteger, start);
+    return read(file, std::move(source), nullptr, onWideInteger, nullptr, start);
 }
 
 } // namespace kiv::json

@@ -46,12 +46,18 @@ struct Document {
 using WideIntegerHandler =
     std::function<void(Position position, std::string const& path, std::string const& digits)>;
 
+/// Is told of a key that stands in an object again: where it stood before, its path, and where it
+/// stands now. Only the last value stays.
+using RepeatedKeyHandler =
+    std::function<void(Position before, std::string const& path, Position again)>;
+
 /// Reads a document and hands over the entries of the array at its top, each as soon as it has
 /// ended; so no more than one is in memory at any time. What it returns is what is left then: the
 /// array without its entries, or the whole of a document that is no array. `file` is the name that
 /// messages use. Without `onWideInteger` such an integer is refused.
 Document readEntries(std::string const& file, ByteSource source, EntryHandler const& handler,
-                     WideIntegerHandler const& onWideInteger = nullptr);
+                     WideIntegerHandler const& onWideInteger = nullptr,
+                     RepeatedKeyHandler const& onRepeatedKey = nullptr);
 
 /// Reads all of a document. `start` is the place of its first byte in the file.
 Document readDocument(std::string const& file, ByteSource source, Position start = {},

@@ -1,42 +1,54 @@
 #include "json/TypeNames.h"
 
+#include <array>
+#include <cstddef>
+
 namespace kiv {
 
 namespace {
 
-class TypeNameVisitor : public data::ConstVisitor {
+class TypeVisitor final : public data::ConstVisitor {
 public:
-    void visitNull() override { m_name = "null"; }
-    void visitBoolean(bool /*value*/) override { m_name = "a boolean"; }
-    void visitInteger(int /*value*/) override { m_name = "a number"; }
-    void visitFloat(double /*value*/) override { m_name = "a number"; }
-    void visitString(types::BufferDescriptor<char const> /*text*/) override { m_name = "text"; }
-    void visitBlob(types::BufferDescriptor<char const> /*bytes*/) override { m_name = "a blob"; }
+    void visitNull() override { m_type = Type::Null; }
+    void visitBoolean(bool /*value*/) override { m_type = Type::Boolean; }
+    void visitInteger(int /*value*/) override { m_type = Type::Integer; }
+    void visitFloat(double /*value*/) override { m_type = Type::Float; }
+    void visitString(types::BufferDescriptor<char const> /*text*/) override { m_type = Type::Text; }
+    void visitBlob(types::BufferDescriptor<char const> /*bytes*/) override { m_type = Type::Blob; }
     void visitArray(types::PtrVector<data::Value> const& /*entries*/) override
     {
-        m_name = "an array";
+        m_type = Type::Array;
     }
-    void visitObject(types::PtrMap<std::string, data::Value> const& /*entries*/) override
+    void visitObject(types::PtrMap<std::string, data::Value> const& /*map*/) override
     {
-        m_name = "an object";
+        m_type = Type::Object;
     }
 
-    [[nodiscard]] std::string_view name() const { return m_name; }
+    [[nodiscard]] Type type() const { return m_type; }
 
 private:
-    std::string_view m_name;
+    Type m_type = Type::Null;
 };
+
+/// By type, in the order of the enumeration.
+constexpr std::array<std::string_view, 8> names{"null", "a boolean", "a number", "a number",
+                                                "text", "a blob",    "an array", "an object"};
 
 } // namespace
 
-std::string_view typeName(data::Value const* value)
+Type typeOf(data::Value const* value)
 {
     if (value == nullptr) {
-        return "null";
+        return Type::Null;
     }
-    TypeNameVisitor visitor;
+    TypeVisitor visitor;
     visitor.visit(value);
-    return visitor.name();
+    return visitor.type();
+}
+
+std::string_view typeName(data::Value const* value)
+{
+    return names[static_cast<std::size_t>(typeOf(value))];
 }
 
 } // namespace kiv

@@ -8,9 +8,10 @@ namespace kiv::json {
 
 ValueBuilder::ValueBuilder(std::string const& file, PositionedStream const& stream,
                            Document& document, EntryHandler const* handler,
-                           WideIntegerHandler const& onWideInteger)
+                           WideIntegerHandler const& onWideInteger,
+                           RepeatedKeyHandler const& onRepeatedKey)
     : m_file(file), m_stream(stream), m_document(document), m_handler(handler),
-      m_onWideInteger(onWideInteger)
+      m_onWideInteger(onWideInteger), m_onRepeatedKey(onRepeatedKey)
 {
 }
 
@@ -59,8 +60,20 @@ void ValueBuilder::take(Owner value, std::size_t index)
         return;
     }
     Level const& parent = levels().back();
+    if (parent.isObject) {
+        tellRepeated(parent);
+    }
     m_document.places.add(parent.holder.get(), {parent.key, m_marks.back().key, position});
     zel::kiv::testing::detail::ValueBuilder::take(std::move(value), index);
+}
+
+void ValueBuilder::tellRepeated(Level const& parent) const
+{
+    auto const& object = static_cast<data::Object const&>(*parent.holder);
+    if (m_onRepeatedKey && object.get().find(parent.key) != object.get().end()) {
+        auto const* const before = m_document.places.find(object, parent.key);
+        m_onRepeatedKey(before->keyPosition, path(), m_marks.back().key);
+    }
 }
 
 bool ValueBuilder::givesEntries() const

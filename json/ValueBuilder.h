@@ -14,9 +14,10 @@ namespace kiv::json {
 /// at the top stays in `document`.
 class ValueBuilder : public zel::kiv::testing::detail::ValueBuilder {
 public:
-    /// All must outlive the builder; `handler` may be null and `onWideInteger` empty.
+    /// All must outlive the builder; `handler` may be null and the other two empty.
     ValueBuilder(std::string const& file, PositionedStream const& stream, Document& document,
-                 EntryHandler const* handler, WideIntegerHandler const& onWideInteger);
+                 EntryHandler const* handler, WideIntegerHandler const& onWideInteger,
+                 RepeatedKeyHandler const& onRepeatedKey);
 
 private:
     /// Where an array or object begins that has not ended yet, and where its last key stands.
@@ -31,6 +32,7 @@ private:
     void named() override;
     void closed() override;
     void take(Owner value, std::size_t index) override;
+    void tellRepeated(Level const& parent) const;
     [[nodiscard]] bool givesEntries() const;
 
     std::string const& m_file;
@@ -38,6 +40,7 @@ private:
     Document& m_document;
     EntryHandler const* m_handler;
     WideIntegerHandler const& m_onWideInteger;
+    RepeatedKeyHandler const& m_onRepeatedKey;
     std::vector<Mark> m_marks;
     std::optional<Position> m_ended; ///< where the array or object begins that has just ended
 };

@@ -1,6 +1,10 @@
+#include "diagnostics/Ignored.h"
+#include "frame/IObjectBase.h"
 #include "json/JsonWriter.h"
 #include "json/Make.h"
 #include "json/TypeNames.h"
+#include "text/Failure.h"
+#include "text/Path.h"
 #include "text/Phrases.h"
 #include "tools/kiv/Command.h"
 #include "tools/kiv/Progress.h"
@@ -16,18 +20,38 @@ namespace kiv {
 
 namespace {
 
-std::unique_ptr<data::Value> valueOf(std::string const& file, Finding const& finding)
+using diagnostics::Fate;
+using diagnostics::Finding;
+using diagnostics::Id;
+
+std::unique_ptr<data::Value> valueOf(std::string const& file, Placed const& placed)
 {
+    Finding const& finding = placed.finding;
     auto value = std::make_unique<data::Object>();
     value->setNew("becomes", json::text(finding.becomes).release());
-    value->setNew("column", json::number(static_cast<int>(finding.position.column)).release());
+    value->setNew("column", json::number(static_cast<int>(placed.position.column)).release());
     value->setNew("fate", json::text(wordOf(finding.fate)).release());
     value->setNew("file", json::text(file).release());
-    value->setNew("line", json::number(static_cast<int>(finding.position.line)).release());
+    value->setNew("id", json::text(rowOf(finding.id).name).release());
+    value->setNew("line", json::number(static_cast<int>(placed.position.line)).release());
     value->setNew("meant", json::text(finding.meant).release());
     value->setNew("path", json::text(finding.path).release());
     value->setNew("stands", json::text(finding.stands).release());
     return value;
+}
+
+/// A finding about the text alone, which the library never comes across.
+Placed textFinding(Fate fate, Id id, json::Position position, std::string const& path,
+                   std::string stands, std::string becomes, std::string meant)
+{
+    Finding finding;
+    finding.fate = fate;
+    finding.id = id;
+    finding.path = path;
+    finding.stands = std::move(stands);
+    finding.becomes = std::move(becomes);
+    finding.meant = std::move(meant);
+    return {position, std::move(finding)};
 }
 
 class CheckCommand : public Command {
@@ -47,21 +71,27 @@ public:
         arguments.required("RESOURCE", m_resource, "The resource, as in uris");
         arguments.required("FILE", m_files, "JSON files, or - for standard input");
         arguments.flag("--strict", m_strict, "Count what is merely suspect as a finding");
+        arguments.optional(
+            "--ignore", m_ignore,
+            "Findings to pass over, by id: unknown-key,odd-uri:radio/presets.station");
         arguments.flag("--json", m_json, "Write the findings as JSON");
     }
 
     Exit run(Console& console) override
     {
         catalogue::Resource const& resource = resourceNamed(m_resource);
+        ignore();
         auto const writer = json::makeWriter(console.output, json::Layout::Indented);
         if (m_json) {
             writer->startArray();
         }
         for (std::string const& file : m_files) {
-            checkFile(resource, file, [&](std::string const& name, Finding const& finding) {
-                count(finding);
-                m_json ? writer->entry(valueOf(name, finding).get())
-                       : print(console, name, finding);
+            checkFile(resource, file, [&](std::string const& name, Placed const& placed) {
+                if (isPassedOver(placed.finding)) {
+                    return;
+                }
+                count(placed.finding);
+                m_json ? writer->entry(valueOf(name, placed).get()) : print(console, name, placed);
             });
         }
         if (m_json) {
@@ -73,48 +103,65 @@ public:
     }
 
 private:
-    using Reporter = std::function<void(std::string const& file, Finding const& finding)>;
+    using Reporter = std::function<void(std::string const& file, Placed const& placed)>;
+
+    void ignore()
+    {
+        std::string const fault = m_ignored.add(m_ignore);
+        if (!fault.empty()) {
+            throw Failure("--ignore: " + fault);
+        }
+    }
+
+    [[nodiscard]] bool isPassedOver(Finding const& finding) const
+    {
+        return (rowOf(finding.id).isQuiet && !m_strict) || m_ignored.holds(finding);
+    }
 
     static void checkFile(catalogue::Resource const& resource, std::string const& path,
                           Reporter const& report)
     {
         InputFile input = openWithProgress(path);
-        std::vector<Finding> findings;
-        FindingHandler const handler = [&](Finding finding) {
-            findings.push_back(std::move(finding));
-        };
+        std::vector<Placed> findings;
         json::WideIntegerHandler const onWide = [&](json::Position position, std::string const& at,
                                                     std::string const& number) {
-            handler({Fate::Forbidden, position, at, "the integer " + number,
-                     "no value holds it: kiv convert refuses it",
-                     "integers have 32 bits: -2147483648 to 2147483647"});
+            findings.push_back(textFinding(Fate::Forbidden, Id::WideNumber, position, at,
+                                           "the integer " + number,
+                                           "no value holds it: kiv convert refuses it",
+                                           "integers have 32 bits: -2147483648 to 2147483647"));
         };
+        json::RepeatedKeyHandler const onRepeated =
+            [&](json::Position before, std::string const& at, json::Position again) {
+                findings.push_back(textFinding(Fate::Lost, Id::RepeatedKey, before, at,
+                                               "a key that stands here again in line " +
+                                                   std::to_string(again.line),
+                                               "only the last value counts", ""));
+            };
         json::Document const rest = json::readEntries(
             input.name, std::move(input.source),
             [&](json::Entry const& entry, json::Places const& places) {
-                Checker(places, handler).check(resource, entry);
+                static_cast<void>(readEntry(resource, entry, places, findings));
                 tellInOrder(findings, input.name, report);
             },
-            onWide);
-        bool const isArray =
-            rest.value != nullptr && rest.value->getType() == data::ValueType::Array;
-        if (!isArray) {
-            handler({Fate::Lost, rest.position, Path().text(),
-                     std::string(typeName(rest.value.get())) + " where an array is wanted",
-                     "the resource stays empty", "put the elements in brackets"});
+            onWide, onRepeated);
+        if (typeOf(rest.value.get()) != Type::Array) {
+            findings.push_back(
+                textFinding(Fate::Lost, Id::WrongForm, rest.position, Path().text(),
+                            std::string(typeName(rest.value.get())) + " where an array is wanted",
+                            "the resource stays empty", "put the elements in brackets"));
         }
         tellInOrder(findings, input.name, report);
     }
 
     /// In the order of the file, which the library does not keep to.
-    static void tellInOrder(std::vector<Finding>& findings, std::string const& file,
+    static void tellInOrder(std::vector<Placed>& findings, std::string const& file,
                             Reporter const& report)
     {
-        std::ranges::stable_sort(findings, {}, [](Finding const& each) {
+        std::ranges::stable_sort(findings, {}, [](Placed const& each) {
             return std::pair(each.position.line, each.position.column);
         });
-        for (Finding const& finding : findings) {
-            report(file, finding);
+        for (Placed const& placed : findings) {
+            report(file, placed);
         }
         findings.clear();
     }
@@ -124,11 +171,13 @@ private:
         ++(finding.fate == Fate::Suspect ? m_suspects : m_findings);
     }
 
-    static void print(Console& console, std::string const& file, Finding const& finding)
+    static void print(Console& console, std::string const& file, Placed const& placed)
     {
+        Finding const& finding = placed.finding;
         bool const isError = finding.fate == Fate::Forbidden;
-        std::string const word = std::string(wordOf(finding.fate)) + ":";
-        console.output.write(console.style.strong(json::placeText(file, finding.position) + ":") +
+        std::string const word =
+            std::string(wordOf(finding.fate)) + " [" + std::string(rowOf(finding.id).name) + "]:";
+        console.output.write(console.style.strong(json::placeText(file, placed.position) + ":") +
                              " " + (isError ? console.style.error(word) : word) + " " +
                              finding.path + " is " + finding.stands + "; " + finding.becomes +
                              (finding.meant.empty() ? "" : "; " + finding.meant) + "\n");
@@ -144,6 +193,8 @@ private:
 
     std::string m_resource;
     std::vector<std::string> m_files;
+    std::string m_ignore;
+    diagnostics::Ignored m_ignored;
     bool m_strict = false;
     bool m_json = false;
     std::size_t m_findings = 0;

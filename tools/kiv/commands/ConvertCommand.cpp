@@ -4,7 +4,7 @@
 #include "text/Failure.h"
 #include "tools/kiv/Command.h"
 #include "tools/kiv/Progress.h"
-#include "tools/kiv/walk/Guard.h"
+#include "tools/kiv/check/Checker.h"
 #include "tools/lookup/Lookup.h"
 
 #include <array>
@@ -61,8 +61,8 @@ public:
         writer->startArray();
         json::readEntries(input.name, std::move(input.source),
                           [&](json::Entry const& entry, json::Places const& places) {
-                              refuseForbidden(input.name, resource, entry, places);
-                              writer->entry(converted(resource, entry.value.get()).get());
+                              auto const element = readEntry(resource, entry, places, input.name);
+                              writer->entry(element->serialize(type()).get());
                           });
         writer->endArray();
         return Exit::Clean;
@@ -77,14 +77,6 @@ private:
             names.emplace_back(form.name);
         }
         return names;
-    }
-
-    [[nodiscard]] std::unique_ptr<data::Value> converted(catalogue::Resource const& resource,
-                                                         data::Value const* value) const
-    {
-        auto const element = resource.makeElement();
-        element->deserialize(value);
-        return element->serialize(type());
     }
 
     [[nodiscard]] SerializationType type() const

@@ -5,7 +5,7 @@
 #include "text/Failure.h"
 #include "tools/kiv/Command.h"
 #include "tools/kiv/Progress.h"
-#include "tools/kiv/walk/Guard.h"
+#include "tools/kiv/check/Checker.h"
 #include "tools/lookup/Lookup.h"
 
 namespace kiv {
@@ -56,9 +56,7 @@ private:
         json::Document const rest = json::readEntries(
             input.name, std::move(input.source),
             [&](json::Entry const& entry, json::Places const& places) {
-                refuseForbidden(input.name, resource, entry, places);
-                auto const element = resource.makeElement();
-                element->deserialize(entry.value.get());
+                auto const element = readEntry(resource, entry, places, input.name);
                 entries->pushNew(element->serialize(common::SerializationType::Full).release());
             });
         refuseAllButArray(input.name, rest);
