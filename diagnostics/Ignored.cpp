@@ -36,7 +36,7 @@ std::string Ignored::add(std::string_view text)
 std::string Ignored::addOne(std::string_view part)
 {
     auto const [name, where] = splitAt(part, ':');
-    auto const row = std::ranges::find(ids, name, &IdRow::name);
+    auto const* const row = std::ranges::find(ids, name, &IdRow::name);
     if (row == ids.end()) {
         std::vector<std::string_view> known;
         std::ranges::transform(ids, std::back_inserter(known), &IdRow::name);

@@ -26,7 +26,8 @@ public:
     Line& operator<<(std::uint64_t number)
     {
         std::array<char, 20> digits{};
-        auto const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+        auto const* const end =
+            std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
         return *this << std::string_view(digits.data(),
                                          static_cast<std::size_t>(end - digits.data()));
     }

@@ -78,7 +78,7 @@ private:
     void tellUnknownKeys(Level const& level);
     void tellUnknown(Level const& level, std::string_view key, bool isNull);
     void checkUri(Finding finding, std::string const& name, std::string const& uri, bool hasId,
-                  Row const* wanted);
+                  Row const* row);
     void checkOwnUri(Level const& level);
     void tellNoUri(data::Value const& value, data::Object const& object);
 

@@ -32,16 +32,16 @@ std::string jsonOf(zel::dataformats::data::Value const* value)
         output.flush();
         return text;
     } catch (Failure const& failure) {
-        return "null,\"fault\":\"" + std::string(failure.what()) + '"';
+        return R"(null,"fault":")" + std::string(failure.what()) + '"';
     }
 }
 
 std::string lineOf(Call const& call)
 {
-    std::string line = "{\"time\":\"" + std::string(TimeText().view()) + "\",\"direction\":\"";
-    line.append(call.isIn ? "in" : "out").append("\",\"resource\":\"").append(nameOf(call.what));
-    line.append("\",\"of\":\"").append(call.isResource ? "resource" : "element");
-    line.append("\",\"form\":\"").append(formOf(call)).append("\",\"value\":");
+    std::string line = R"({"time":")" + std::string(TimeText().view()) + R"(","direction":")";
+    line.append(call.isIn ? "in" : "out").append(R"(","resource":")").append(nameOf(call.what));
+    line.append(R"(","of":")").append(call.isResource ? "resource" : "element");
+    line.append(R"(","form":")").append(formOf(call)).append(R"(","value":)");
     line.append(jsonOf(call.value)).append("}\n");
     return line;
 }

@@ -42,7 +42,7 @@ std::size_t recordLimit()
 
 std::string placeOf(Finding const& finding)
 {
-    std::string const top = nameOf(finding.top);
+    std::string top = nameOf(finding.top);
     if (finding.path == "the top") {
         return top;
     }
@@ -76,9 +76,8 @@ std::string jsonFields(Fields fields)
 /// What every line of JSON begins with.
 Line& begin(Line& line, std::string_view program)
 {
-    return line << "{\"time\":\"" << TimeText().view()
-                << "\",\"pid\":" << static_cast<std::uint64_t>(::getpid())
-                << ",\"program\":" << program;
+    return line << R"({"time":")" << TimeText().view() << R"(","pid":)"
+                << static_cast<std::uint64_t>(::getpid()) << ",\"program\":" << program;
 }
 
 Line& begin(Line& line)
@@ -242,8 +241,8 @@ void Report::finishJson()
         }
         auto const [service, resource] = Totals::nameAt(i);
         Line line;
-        begin(line, m_program) << ",\"class\":\"" << service << (resource.empty() ? "" : "/")
-                               << resource << "\",\"in\":" << row.in << ",\"out\":" << row.out
+        begin(line, m_program) << R"(,"class":")" << service << (resource.empty() ? "" : "/")
+                               << resource << R"(","in":)" << row.in << ",\"out\":" << row.out
                                << ",\"elements\":" << row.elements
                                << ",\"microseconds\":" << row.nanoseconds / 1000
                                << ",\"findings\":" << row.findings << "}";

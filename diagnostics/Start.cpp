@@ -39,7 +39,7 @@ struct Start {
     {
         report = new Report;
         setReceiver(report);
-        std::atexit([] { report->finish(); });
+        static_cast<void>(std::atexit([] { report->finish(); }));
         for (int const signal : std::array{SIGTERM, SIGINT, SIGHUP}) {
             listenTo(signal);
         }
