@@ -1,10 +1,13 @@
-# What is installed where, in four components: runtime, development, standins (libraries and headers
-# that the real platform brings instead) and tools. Target components hold no generator.
+# What is installed where, in components: runtime, development, diagnostics (the library that tells),
+# standins (libraries and headers that the real platform brings instead) and tools. Target components hold no generator.
 
 include(CMakePackageConfigHelpers)
 
 # Builds all of it.
 add_custom_target(shipped DEPENDS zel_kiv_services)
+if(TARGET zel_kiv_services_diagnostics)
+    add_dependencies(shipped zel_kiv_services_diagnostics)
+endif()
 
 set(include_root ${CMAKE_INSTALL_INCLUDEDIR}/zel-kiv)
 set(cmake_root ${CMAKE_INSTALL_LIBDIR}/cmake)

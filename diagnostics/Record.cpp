@@ -1,10 +1,14 @@
 #include "diagnostics/Record.h"
 
 #include "diagnostics/Clock.h"
-#include "json/JsonWriter.h"
-#include "text/Failure.h"
+#include "json/Maps.h"
+#include "testing/detail/JsonVisitor.h"
+
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
 
 #include <array>
+#include <cmath>
 #include <string_view>
 #include <unistd.h>
 #include <utility>
@@ -22,17 +26,35 @@ std::string_view formOf(Call const& call)
     return type < forms.size() ? forms[type] : forms.front();
 }
 
-/// The value in JSON; null, and why, if it cannot be written so.
-std::string jsonOf(zel::dataformats::data::Value const* value)
+using Writer = rapidjson::Writer<rapidjson::StringBuffer>;
+
+/// What JSON has no words for becomes null.
+template <typename Target>
+class Visitor : public zel::kiv::testing::detail::JsonVisitor<Target> {
+    using Base = zel::kiv::testing::detail::JsonVisitor<Target>;
+
+public:
+    using Base::Base;
+
+    void visitFloat(double value) override
+    {
+        std::isfinite(value) ? Base::visitFloat(value) : this->visitNull();
+    }
+
+    void visitBlob(types::BufferDescriptor<char const> /*bytes*/) override { this->visitNull(); }
+};
+
+/// The value in JSON, or nothing but null if the platform's objects cannot be walked.
+template <typename Target>
+std::string jsonOf(data::Value const* value)
 {
-    std::string text;
-    try {
-        Output output(text);
-        json::makeWriter(output, json::Layout::Compact)->entry(value);
-        output.flush();
-        return text;
-    } catch (Failure const& failure) {
-        return R"(null,"fault":")" + std::string(failure.what()) + '"';
+    if constexpr (mapsAreWalkable) {
+        rapidjson::StringBuffer buffer;
+        Target target(buffer);
+        Visitor<Target>(target).write(value);
+        return {buffer.GetString(), buffer.GetSize()};
+    } else {
+        return "null";
     }
 }
 
@@ -42,7 +64,7 @@ std::string lineOf(Call const& call)
     line.append(call.isIn ? "in" : "out").append(R"(","resource":")").append(nameOf(call.what));
     line.append(R"(","of":")").append(call.isResource ? "resource" : "element");
     line.append(R"(","form":")").append(formOf(call)).append(R"(","value":)");
-    line.append(jsonOf(call.value)).append("}\n");
+    line.append(jsonOf<Writer>(call.value)).append("}\n");
     return line;
 }
 

@@ -45,5 +45,6 @@ std::unique_ptr<Command> makeDiffCommand();
 std::unique_ptr<Command> makeGraphCommand();
 std::unique_ptr<Command> makeSchemaCommand();
 std::unique_ptr<Command> makeCompatCommand();
+std::unique_ptr<Command> makeTraceCommand();
 
 } // namespace kiv

@@ -30,6 +30,7 @@ Commands allCommands()
     commands.push_back(kiv::makeDiffCommand());
     commands.push_back(kiv::makeSchemaCommand());
     commands.push_back(kiv::makeCompatCommand());
+    commands.push_back(kiv::makeTraceCommand());
     return commands;
 }
 

@@ -3,6 +3,7 @@
 #include "json/TypeNames.h"
 #include "testing/difference.h"
 #include "text/Failure.h"
+#include "text/Path.h"
 #include "tools/kiv/Command.h"
 #include "tools/kiv/Progress.h"
 #include "tools/kiv/check/Checker.h"

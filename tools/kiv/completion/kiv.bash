@@ -57,7 +57,7 @@ _kiv() {
             compgen -W "$(_kiv_words services; _kiv_words resources)" -- "$word"
         )
         ;;
-    find:*) ;;
+    find:* | trace:*) ;;
     compat:* | *:[2-9])
         mapfile -t COMPREPLY < <(compgen -f -- "$word")
         compopt -o filenames 2>/dev/null
