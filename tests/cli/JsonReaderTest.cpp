@@ -156,8 +156,9 @@ TEST(ValueBuilder, RefusesBothHalvesOfASurrogatePair)
     PositionedStream const stream(textSource(""));
     std::string const file = "f";
     WideIntegerHandler const none;
+    RepeatedKeyHandler const nobody;
     Document document;
-    ValueBuilder builder(file, stream, document, nullptr, none);
+    ValueBuilder builder(file, stream, document, nullptr, none, nobody);
     for (char const* const half :
          {"\xED\xA0\x80", "\xED\xAF\xBF", "\xED\xB0\x80", "\xED\xBF\xBF"}) {
         EXPECT_THROW(builder.String(half, 3, true), Failure);
