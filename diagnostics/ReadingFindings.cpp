@@ -252,8 +252,9 @@ void ReadingTrail::passUri(Receiver& receiver, data::Object const& object, data:
     }
     finding.fate = Fate::Forbidden;
     finding.id = Id::UriNoText;
-    finding.path += ".uri";
-    finding.pattern += ".uri";
+    std::string const end = finding.path.empty() ? "uri" : ".uri";
+    finding.path += end;
+    finding.pattern += end;
     finding.key = "uri";
     finding.place = {&object, "uri", 0};
     m_receiver = &receiver;

@@ -46,7 +46,7 @@ std::string placeOf(Finding const& finding)
     if (finding.path == "the top") {
         return top;
     }
-    return top + (finding.path.starts_with('[') ? " " : "") + escaped(finding.path);
+    return top + (finding.path.starts_with('[') ? " " : ".") + escaped(finding.path);
 }
 
 std::string textOf(Finding const& finding)

@@ -16,6 +16,7 @@
 namespace {
 
 using namespace kiv;
+namespace catalogue = zel::kiv::catalogue;
 using diagnostics::Fate;
 using diagnostics::Finding;
 using diagnostics::Id;
