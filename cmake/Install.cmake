@@ -75,7 +75,10 @@ if(NOT ZEL_KIV_PLATFORM)
 endif()
 
 if(TARGET kiv)
-    add_dependencies(shipped kiv)
+    # The packages for another machine hold no tools.
+    if(NOT CMAKE_CROSSCOMPILING)
+        add_dependencies(shipped kiv)
+    endif()
     file(RELATIVE_PATH libraries
         ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
     set_target_properties(kiv PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries}")
