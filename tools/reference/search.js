@@ -43,7 +43,7 @@ const search = (() => {
   function entryOf(sort, name, path, place, names, text, kind = '') {
     const lines = `\n${name}\n${path}\n${names.join('\n')}\n`;
     return { sort, name, path, place, text, kind, lines, lower: lines.toLowerCase(),
-      order: sorts.indexOf(sort), plainText: null };
+      lowerName: name.toLowerCase(), order: sorts.indexOf(sort), plainText: null };
   }
 
   function entryOfResource(service, [key, type, element, elementKey, about]) {
@@ -99,40 +99,44 @@ const search = (() => {
     return at === 0 || (/[A-Z]/.test(name[at]) && !/[A-Z]/.test(name[at - 1]));
   }
 
-  /** How well an entry fits of which a name holds `lower`. */
-  function rankOfName(entry, wanted, lower) {
-    if (entry.lines.includes(`\n${wanted}\n`)) {
-      return 0;
+  /** What is looked for, in the forms in which it is compared. */
+  function soughtFor(wanted, text) {
+    const lower = wanted.toLowerCase();
+    return { lower, line: `\n${wanted}\n`, lowerLine: `\n${lower}\n`,
+      words: plain(text).trim().split(/[\s/]+/) };
+  }
+
+  /** How well an entry fits of which a name holds what is looked for. */
+  function rankOfName(entry, { lower, line, lowerLine }) {
+    const at = entry.lowerName.indexOf(lower);
+    if (entry.lower.includes(lowerLine)) {
+      return entry.lines.includes(line) ? 0 : 1;
     }
-    if (entry.lower.includes(`\n${lower}\n`)) {
-      return 1;
-    }
-    const at = entry.name.toLowerCase().indexOf(lower);
     return at < 0 ? 5 : at === 0 ? 2 : startsWord(entry.name, at) ? 3 : 4;
   }
 
   /** How well an entry fits, the smaller the better, or null. */
-  function rank(entry, wanted, lower, words) {
-    if (entry.lower.includes(lower)) {
-      return rankOfName(entry, wanted, lower);
+  function rank(entry, sought) {
+    if (entry.lower.includes(sought.lower)) {
+      return rankOfName(entry, sought);
     }
-    if (words.every((word) => entry.lower.includes(word))) {
+    if (sought.words.every((word) => entry.lower.includes(word))) {
       return 6;
     }
     entry.plainText ??= plain(entry.text);
-    if (words.every((word) => entry.plainText.includes(word) || entry.lower.includes(word))) {
+    if (sought.words.every((word) =>
+      entry.plainText.includes(word) || entry.lower.includes(word))) {
       return 7;
     }
-    return entry.kind.replace(' ', '/') === lower ? worstRank : null;
+    return entry.kind.replace(' ', '/') === sought.lower ? worstRank : null;
   }
 
   /** What fits, the best first; the first `exact` of them are called so. */
   function fitting(entries, wanted, text) {
-    const lower = wanted.toLowerCase();
-    const words = plain(text).trim().split(/[\s/]+/);
+    const sought = soughtFor(wanted, text);
     const byRank = Array.from({ length: worstRank + 1 }, () => []);
     for (const entry of entries) {
-      const value = rank(entry, wanted, lower, words);
+      const value = rank(entry, sought);
       if (value !== null) {
         byRank[value].push(entry);
       }

@@ -2,7 +2,7 @@
 'use strict';
 
 (() => {
-  const batch = 25;
+  const batch = 20;
   const box = document.querySelector('.search');
   const query = document.getElementById('search-text');
   const popup = box.querySelector('.results');
@@ -82,13 +82,15 @@
       `${nothing} Names are matched letter for letter. Near it: ${count(result.entries.length)}`;
   }
 
-  function activate(index) {
+  function activate(index, mayScroll = true) {
     options()[active]?.setAttribute('aria-selected', 'false');
     active = index;
     const chosen = options()[active];
     if (chosen) {
       chosen.setAttribute('aria-selected', 'true');
-      chosen.scrollIntoView({ block: 'nearest' });
+      if (mayScroll) {
+        chosen.scrollIntoView({ block: 'nearest' });
+      }
       query.setAttribute('aria-activedescendant', chosen.id);
     } else {
       query.removeAttribute('aria-activedescendant');
@@ -108,10 +110,12 @@
     list.replaceChildren();
     showFrom(0);
     note.textContent = text === '' ? '' : noteFor(result, text);
+    if (!popup.hidden) {
+      popup.scrollTop = 0;
+    }
     open(text !== '');
-    popup.scrollTop = 0;
     active = -1;
-    activate(hits.length > 0 ? 0 : -1);
+    activate(hits.length > 0 ? 0 : -1, false);
   }
 
   function choose(chosen) {
