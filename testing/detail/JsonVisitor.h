@@ -71,14 +71,21 @@ public:
         zel::common::types::PtrMap<std::string, dataformats::data::Value> const& entries) override
     {
         m_target.StartObject();
-        for (auto const& entry : walkable(entries)) {
-            m_target.Key(entry.first.data(), static_cast<rapidjson::SizeType>(entry.first.size()));
-            write(static_cast<dataformats::data::Value const*>(entry.second));
-        }
+        writeFields(entries);
         m_target.EndObject();
     }
 
 private:
+    /// For any map, so that nothing is said of one that cannot be walked unless it is written.
+    template <typename Map>
+    void writeFields(Map const& map)
+    {
+        for (auto const& entry : walkable(map)) {
+            m_target.Key(entry.first.data(), static_cast<rapidjson::SizeType>(entry.first.size()));
+            write(static_cast<dataformats::data::Value const*>(entry.second));
+        }
+    }
+
     Target& m_target;
     dataformats::data::Value const* m_value = nullptr; ///< the one that is visited
 };
