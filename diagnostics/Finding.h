@@ -42,6 +42,7 @@ enum class Id {
     NullSlot,
     RepeatedKey,
     WideNumber,
+    TinyNumber,
 };
 
 struct IdRow {
@@ -70,6 +71,7 @@ inline constexpr std::array ids{
     IdRow{Id::NullSlot, "null-slot"},
     IdRow{Id::RepeatedKey, "repeated-key"},
     IdRow{Id::WideNumber, "wide-number"},
+    IdRow{Id::TinyNumber, "tiny-number", true},
 };
 
 constexpr IdRow const& rowOf(Id id)

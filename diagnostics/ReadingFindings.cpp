@@ -1,5 +1,6 @@
 // What is found on the way of reading, in words.
 
+#include "diagnostics/KeyHomes.h"
 #include "diagnostics/ReadingTrail.h"
 #include "diagnostics/Words.h"
 #include "json/TypeNames.h"
@@ -128,10 +129,12 @@ void ReadingTrail::tellUnknownKeys(Level const& level)
 void ReadingTrail::tellUnknown(Level const& level, std::string_view key, bool isNull)
 {
     top().key = key;
+    Row const* const row = rowOf(level);
+    std::string const home = row == nullptr ? "" : homeOf(*row, key);
     tell(here(isNull ? Fate::Suspect : Fate::Lost, Id::UnknownKey),
-         "no key of " + nameOf(rowOf(level)),
+         "no key of " + nameOf(row),
          isNull ? "it is passed over, like every null" : "it is passed over",
-         guess(key, level.asked));
+         home.empty() ? guess(key, level.asked) : home);
     top().key = {};
 }
 

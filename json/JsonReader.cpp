@@ -76,6 +76,9 @@ std::string faultWords(Fault fault, PositionedStream const& stream)
     if (fault == rapidjson::kParseErrorStringInvalidEncoding) {
         return "this text is not in UTF-8";
     }
+    if (fault == rapidjson::kParseErrorNumberTooBig) {
+        return "this number is too large for a double";
+    }
     if (fault == rapidjson::kParseErrorDocumentRootNotSingular) {
         return "the document has ended before this; of a file with a document on each line, kiv reads "
                "all with --lines";
@@ -114,7 +117,7 @@ void refuseOtherEncodings(std::string const& file, PositionedStream const& strea
 }
 
 Document read(std::string const& file, ByteSource source, EntryHandler const* handler,
-              WideIntegerHandler const& onWideInteger, RepeatedKeyHandler const& onRepeatedKey,
+              MisfitHandler const& onMisfit, RepeatedKeyHandler const& onRepeatedKey,
               Position start)
 {
     constexpr unsigned flags = rapidjson::kParseIterativeFlag |
@@ -123,7 +126,7 @@ Document read(std::string const& file, ByteSource source, EntryHandler const* ha
     PositionedStream stream(std::move(source), PositionedStream::longestToken, start);
     refuseOtherEncodings(file, stream);
     Document document;
-    ValueBuilder builder(file, stream, document, handler, onWideInteger, onRepeatedKey);
+    ValueBuilder builder(file, stream, document, handler, onMisfit, onRepeatedKey);
     rapidjson::Reader reader;
     rapidjson::ParseResult const result = reader.Parse<flags>(stream, builder);
     bool const stoppedAtZero = !result.IsError() && !stream.atEnd();
@@ -137,16 +140,15 @@ Document read(std::string const& file, ByteSource source, EntryHandler const* ha
 } // namespace
 
 Document readEntries(std::string const& file, ByteSource source, EntryHandler const& handler,
-                     WideIntegerHandler const& onWideInteger,
-                     RepeatedKeyHandler const& onRepeatedKey)
+                     MisfitHandler const& onMisfit, RepeatedKeyHandler const& onRepeatedKey)
 {
-    return read(file, std::move(source), &handler, onWideInteger, onRepeatedKey, {});
+    return read(file, std::move(source), &handler, onMisfit, onRepeatedKey, {});
 }
 
 Document readDocument(std::string const& file, ByteSource source, Position start,
-                      WideIntegerHandler const& onWideInteger)
+                      MisfitHandler const& onMisfit, RepeatedKeyHandler const& onRepeatedKey)
 {
-    return read(file, std::move(source), nullptr, onWideInteger, nullptr, start);
+    return read(file, std::move(source), nullptr, onMisfit, onRepeatedKey, start);
 }
 
 } // namespace kiv::json

@@ -30,9 +30,9 @@ struct Entry {
     std::size_t index = 0;
 };
 
-/// Takes one entry after the other. The places are those of the values below the entry, and are
-/// forgotten after the call.
-using EntryHandler = std::function<void(Entry entry, Places const& places)>;
+/// Takes one entry after the other. The places are those of the values below the entry; they are
+/// forgotten after the call, or before if the handler has no more use for them.
+using EntryHandler = std::function<void(Entry entry, Places& places)>;
 
 /// A whole document and where its values stand.
 struct Document {
@@ -41,10 +41,16 @@ struct Document {
     Places places;
 };
 
-/// Is told of an integer outside 32 bits: its place, its path and its digits. A null takes its
-/// place in the values.
-using WideIntegerHandler =
-    std::function<void(Position position, std::string const& path, std::string const& digits)>;
+/// Why no value holds a number as it stands.
+enum class Misfit {
+    WideInteger, ///< outside 32 bits; the nearest one takes its place
+    WideNumber,  ///< too large for a double; the largest takes its place
+    TinyNumber,  ///< a double has only zero for it
+};
+
+/// Is told of a number that no value holds: its place, its path and how it is written.
+using MisfitHandler = std::function<void(Misfit misfit, Position position, std::string const& path,
+                                         std::string const& number)>;
 
 /// Is told of a key that stands in an object again: where it stood before, its path, and where it
 /// stands now. Only the last value stays.
@@ -54,13 +60,14 @@ using RepeatedKeyHandler =
 /// Reads a document and hands over the entries of the array at its top, each as soon as it has
 /// ended; so no more than one is in memory at any time. What it returns is what is left then: the
 /// array without its entries, or the whole of a document that is no array. `file` is the name that
-/// messages use. Without `onWideInteger` such an integer is refused.
+/// messages use. Without `onMisfit` a number that is too wide is refused.
 Document readEntries(std::string const& file, ByteSource source, EntryHandler const& handler,
-                     WideIntegerHandler const& onWideInteger = nullptr,
+                     MisfitHandler const& onMisfit = nullptr,
                      RepeatedKeyHandler const& onRepeatedKey = nullptr);
 
 /// Reads all of a document. `start` is the place of its first byte in the file.
 Document readDocument(std::string const& file, ByteSource source, Position start = {},
-                      WideIntegerHandler const& onWideInteger = nullptr);
+                      MisfitHandler const& onMisfit = nullptr,
+                      RepeatedKeyHandler const& onRepeatedKey = nullptr);
 
 } // namespace kiv::json

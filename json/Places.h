@@ -16,7 +16,7 @@ namespace kiv::json {
 /// it.
 class Places {
 public:
-    /// A key and its value, or an entry of an array, which has no key.
+    /// A key of an object and its value.
     struct Place {
         std::string key;
         Position keyPosition;
@@ -25,23 +25,39 @@ public:
 
     /// Notes that `holder` is a new array or object. What was noted of one that lay at the same
     /// address, and was freed, is forgotten.
-    void start(data::Value const* holder) { m_places[holder].clear(); }
-    void add(data::Value const* holder, Place place)
+    void start(data::Value const* holder)
     {
-        m_places[holder].push_back(std::move(place));
+        m_keys.erase(holder);
+        m_entries.erase(holder);
     }
-    void clear() { m_places.clear(); }
+    void addKey(data::Value const* object, Place place)
+    {
+        m_keys[object].push_back(std::move(place));
+    }
+    void addEntry(data::Value const* array, Position position)
+    {
+        m_entries[array].push_back(position);
+    }
+    void clear()
+    {
+        m_keys.clear();
+        m_entries.clear();
+    }
 
-    /// All places below `holder` as the text has them: entries by index; of an object all keys in
-    /// the order of the text, a repeated one each time that it stands there.
-    [[nodiscard]] std::span<Place const> below(data::Value const& holder) const;
+    /// All places below an object in the order of the text, a repeated key each time that it stands
+    /// there.
+    [[nodiscard]] std::span<Place const> keysOf(data::Value const& object) const;
 
     /// The place of the value that counts for `key`, which is the last one, or null if the text has
     /// no such key.
     [[nodiscard]] Place const* find(data::Object const& holder, std::string_view key) const;
 
+    /// The place of an entry of an array, which must have one.
+    [[nodiscard]] Position entry(data::Value const& array, std::size_t index) const;
+
 private:
-    std::unordered_map<data::Value const*, std::vector<Place>> m_places;
+    std::unordered_map<data::Value const*, std::vector<Place>> m_keys;
+    std::unordered_map<data::Value const*, std::vector<Position>> m_entries;
 };
 
 } // namespace kiv::json

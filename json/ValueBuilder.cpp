@@ -2,16 +2,16 @@
 
 #include "text/Failure.h"
 
+#include <limits>
 #include <utility>
 
 namespace kiv::json {
 
 ValueBuilder::ValueBuilder(std::string const& file, PositionedStream const& stream,
                            Document& document, EntryHandler const* handler,
-                           WideIntegerHandler const& onWideInteger,
-                           RepeatedKeyHandler const& onRepeatedKey)
+                           MisfitHandler const& onMisfit, RepeatedKeyHandler const& onRepeatedKey)
     : m_file(file), m_stream(stream), m_document(document), m_handler(handler),
-      m_onWideInteger(onWideInteger), m_onRepeatedKey(onRepeatedKey)
+      m_onMisfit(onMisfit), m_onRepeatedKey(onRepeatedKey)
 {
 }
 
@@ -22,11 +22,30 @@ void ValueBuilder::refuse(std::string const& what, bool isNext) const
 
 ValueBuilder::Owner ValueBuilder::wideInteger(std::string const& digits)
 {
-    if (!m_onWideInteger) {
-        return zel::kiv::testing::detail::ValueBuilder::wideInteger(digits);
+    if (!m_onMisfit) {
+        return Base::wideInteger(digits);
     }
-    m_onWideInteger(m_stream.token(), path(), digits);
-    return nullptr;
+    using Limits = std::numeric_limits<int>;
+    m_onMisfit(Misfit::WideInteger, m_stream.token(), path(), digits);
+    return std::make_unique<data::Integer>(digits.front() == '-' ? Limits::min() : Limits::max());
+}
+
+ValueBuilder::Owner ValueBuilder::wideNumber(std::string const& number)
+{
+    if (!m_onMisfit) {
+        return Base::wideNumber(number);
+    }
+    using Limits = std::numeric_limits<double>;
+    m_onMisfit(Misfit::WideNumber, m_stream.token(), path(), number);
+    return std::make_unique<data::Float>(number.front() == '-' ? Limits::lowest() : Limits::max());
+}
+
+ValueBuilder::Owner ValueBuilder::tinyNumber(std::string const& number)
+{
+    if (m_onMisfit) {
+        m_onMisfit(Misfit::TinyNumber, m_stream.token(), path(), number);
+    }
+    return Base::tinyNumber(number);
 }
 
 void ValueBuilder::opened(data::Value const& holder)
@@ -62,9 +81,11 @@ void ValueBuilder::take(Owner value, std::size_t index)
     Level const& parent = levels().back();
     if (parent.isObject) {
         tellRepeated(parent);
+        m_document.places.addKey(parent.holder.get(), {parent.key, m_marks.back().key, position});
+    } else {
+        m_document.places.addEntry(parent.holder.get(), position);
     }
-    m_document.places.add(parent.holder.get(), {parent.key, m_marks.back().key, position});
-    zel::kiv::testing::detail::ValueBuilder::take(std::move(value), index);
+    Base::take(std::move(value), index);
 }
 
 void ValueBuilder::tellRepeated(Level const& parent) const

@@ -13,10 +13,12 @@ namespace kiv::json {
 /// or, as an entry of the array at the top, to the handler, if there is one; without one the value
 /// at the top stays in `document`.
 class ValueBuilder : public zel::kiv::testing::detail::ValueBuilder {
+    using Base = zel::kiv::testing::detail::ValueBuilder;
+
 public:
     /// All must outlive the builder; `handler` may be null and the other two empty.
     ValueBuilder(std::string const& file, PositionedStream const& stream, Document& document,
-                 EntryHandler const* handler, WideIntegerHandler const& onWideInteger,
+                 EntryHandler const* handler, MisfitHandler const& onMisfit,
                  RepeatedKeyHandler const& onRepeatedKey);
 
 private:
@@ -28,6 +30,8 @@ private:
 
     [[noreturn]] void refuse(std::string const& what, bool isNext) const override;
     Owner wideInteger(std::string const& digits) override;
+    Owner wideNumber(std::string const& number) override;
+    Owner tinyNumber(std::string const& number) override;
     void opened(data::Value const& holder) override;
     void named() override;
     void closed() override;
@@ -39,7 +43,7 @@ private:
     PositionedStream const& m_stream;
     Document& m_document;
     EntryHandler const* m_handler;
-    WideIntegerHandler const& m_onWideInteger;
+    MisfitHandler const& m_onMisfit;
     RepeatedKeyHandler const& m_onRepeatedKey;
     std::vector<Mark> m_marks;
     std::optional<Position> m_ended; ///< where the array or object begins that has just ended

@@ -95,6 +95,19 @@ protected:
         return nullptr; // which is not reached
     }
 
+    /// What stands for a number that is too large for a double, if it is not refused.
+    virtual Owner wideNumber(std::string const& number)
+    {
+        refuse("the number " + number + " at " + path() + " is too large for a double", false);
+        return nullptr; // which is not reached
+    }
+
+    /// What stands for a number so near to zero that a double has none but zero for it.
+    virtual Owner tinyNumber(std::string const& /*number*/)
+    {
+        return std::make_unique<dataformats::data::Float>(0.0);
+    }
+
     /// Are told that an array or object begins, that a key was read, and that the innermost of them
     /// ends, before its value does.
     virtual void opened(Value const& /*holder*/) {}
@@ -166,7 +179,11 @@ private:
     {
         double const value = std::strtod(number.c_str(), nullptr);
         if (!std::isfinite(value)) {
-            refuse("the number " + number + " at " + path() + " is too large for a double", false);
+            return wideNumber(number);
+        }
+        bool const isZero = number.find_first_of("123456789") >= number.find_first_of("eE");
+        if (value == 0.0 && !isZero) {
+            return tinyNumber(number);
         }
         return std::make_unique<dataformats::data::Float>(value);
     }

@@ -1,6 +1,9 @@
 #include "tools/kiv/Console.h"
 
+#include "text/Printable.h"
+
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <unistd.h>
 
@@ -48,6 +51,14 @@ std::string Style::marked(std::string_view code, std::string_view text) const
         result.insert(0, "\x1b[" + std::string(code) + "m").append("\x1b[0m");
     }
     return result;
+}
+
+void complain(std::string const& where, std::string const& what)
+{
+    Style const style(STDERR_FILENO);
+    std::string const line =
+        style.strong(printable(where) + ":") + " " + style.error("error:") + " " + printable(what);
+    static_cast<void>(std::fprintf(stderr, "%s\n", line.c_str()));
 }
 
 void Table::print(Console& console, std::string_view indent) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "text/Failure.h"
 #include "text/Output.h"
 
 #include <string>
@@ -27,10 +28,20 @@ private:
 /// Whether the descriptor is a terminal that does what escape sequences say.
 bool redraws(int descriptor);
 
+/// Says on standard error what is wrong, and where.
+void complain(std::string const& where, std::string const& what);
+
 /// Where a command prints its result.
 struct Console {
     Output output;
     Style style;
+
+    /// Says what is wrong, behind what was printed so far.
+    void complain(Failure const& failure)
+    {
+        output.flush();
+        kiv::complain(failure.where(), failure.what());
+    }
 };
 
 /// Rows of text in aligned columns. The first column is printed strong.

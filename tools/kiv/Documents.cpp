@@ -1,6 +1,7 @@
 #include "tools/kiv/Documents.h"
 
 #include "json/TypeNames.h"
+#include "text/Path.h"
 #include "tools/kiv/LineReader.h"
 #include "tools/kiv/Progress.h"
 #include "tools/lookup/Lookup.h"
@@ -50,7 +51,7 @@ public:
     LentEntry& operator=(LentEntry const&) = delete;
     ~LentEntry() { static_cast<void>(m_entry.value.release()); }
 
-    [[nodiscard]] json::Entry const& get() const { return m_entry; }
+    json::Entry& get() { return m_entry; }
 
 private:
     json::Entry m_entry;
@@ -71,8 +72,8 @@ public:
         if (m_options.lines) {
             readLines();
         } else if (m_options.element) {
-            auto const document = json::readDocument(m_input.name, std::move(m_input.source), {},
-                                                     m_handlers.onWideInteger);
+            auto document = json::readDocument(m_input.name, std::move(m_input.source), {},
+                                               m_handlers.onMisfit, m_handlers.onRepeatedKey);
             readElement(document.value.get(), document.position, document.places, m_resource);
         } else {
             readArray();
@@ -84,10 +85,10 @@ private:
     {
         json::Document const rest = json::readEntries(
             m_input.name, std::move(m_input.source),
-            [this](json::Entry const& entry, json::Places const& places) {
-                give(entry, places, m_resource);
+            [this](json::Entry entry, json::Places& places) {
+                give(entry, places, m_resource, true);
             },
-            m_handlers.onWideInteger);
+            m_handlers.onMisfit, m_handlers.onRepeatedKey);
         if (!isOf(ValueType::Array, rest.value.get())) {
             bool const isObject = isOf(ValueType::Object, rest.value.get());
             refuse(rest.position, rest.value.get(), "an array",
@@ -101,8 +102,9 @@ private:
         LineReader lines(std::move(m_input.source));
         while (lines.next()) {
             try {
-                auto const document = json::readDocument(
-                    m_input.name, lines.source(), {lines.number(), 1}, m_handlers.onWideInteger);
+                auto document =
+                    json::readDocument(m_input.name, lines.source(), {lines.number(), 1},
+                                       m_handlers.onMisfit, m_handlers.onRepeatedKey);
                 readLine(document);
             } catch (Failure const& fault) {
                 if (!m_handlers.onBadLine) {
@@ -113,7 +115,7 @@ private:
         }
     }
 
-    void readLine(json::Document const& document)
+    void readLine(json::Document& document)
     {
         data::Value* value = document.value.get();
         json::Position position = document.position;
@@ -125,7 +127,7 @@ private:
                 : readElement(value, position, document.places, m_resource);
             return;
         }
-        auto const* const recorded = &resourceNamed(name);
+        auto const* const recorded = &recordedResource(name, position);
         if (m_resource != nullptr && m_resource != recorded) {
             return; // the line is of another resource than the one that was asked for
         }
@@ -142,17 +144,26 @@ private:
         }
     }
 
-    void readEntries(data::Value& array, json::Places const& places,
-                     catalogue::Resource const* resource)
+    [[nodiscard]] catalogue::Resource const& recordedResource(std::string_view name,
+                                                              json::Position position) const
     {
-        auto const below = places.below(array);
-        auto& entries = static_cast<data::Array&>(array).get();
-        for (std::size_t i = 0; i < entries.size(); ++i) {
-            give(LentEntry(entries[i], below[i].position, i).get(), places, resource);
+        try {
+            return resourceNamed(name);
+        } catch (Failure const& fault) {
+            throw Failure(json::placeText(m_input.name, position), fault.what());
         }
     }
 
-    void readElement(data::Value* value, json::Position position, json::Places const& places,
+    void readEntries(data::Value& array, json::Places& places, catalogue::Resource const* resource)
+    {
+        auto& entries = static_cast<data::Array&>(array).get();
+        for (std::size_t i = 0; i < entries.size(); ++i) {
+            LentEntry entry(entries[i], places.entry(array, i), i);
+            give(entry.get(), places, resource, false);
+        }
+    }
+
+    void readElement(data::Value* value, json::Position position, json::Places& places,
                      catalogue::Resource const* resource)
     {
         if (!isOf(ValueType::Object, value)) {
@@ -160,12 +171,13 @@ private:
                    isOf(ValueType::Array, value) ? "leave --element out" : "");
             return;
         }
-        give(LentEntry(value, position, m_elements++).get(), places, resource);
+        LentEntry entry(value, position, m_elements++);
+        give(entry.get(), places, resource, false);
     }
 
     /// Hands an element over, to the resource that its own uri names if none is known.
-    void give(json::Entry const& entry, json::Places const& places,
-              catalogue::Resource const* resource)
+    void give(json::Entry& entry, json::Places& places, catalogue::Resource const* resource,
+              bool isAlone)
     {
         std::string_view const uri = textAt(entry.value.get(), "uri");
         if (resource == nullptr && uri.starts_with('/')) {
@@ -173,18 +185,20 @@ private:
             resource = named.empty() ? nullptr : named.front();
         }
         if (resource == nullptr) {
-            tell({m_input.name, entry.position,
+            Path path;
+            path.enter(entry.index);
+            tell({m_input.name, entry.position, path.text(),
                   "an element that does not say of which resource it is",
                   "give it a uri, or name the resource in the place of auto"});
             return;
         }
-        m_handlers.onEntry(*resource, entry, places);
+        m_handlers.onEntry({m_input.name, *resource, entry, places, isAlone});
     }
 
     void refuse(json::Position position, data::Value const* value, std::string const& wanted,
                 std::string meant)
     {
-        tell({m_input.name, position,
+        tell({m_input.name, position, Path().text(),
               std::string(typeName(value)) + " where " + wanted + " is wanted", std::move(meant)});
     }
 

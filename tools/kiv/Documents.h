@@ -24,22 +24,39 @@ struct DocumentOptions {
 struct WrongForm {
     std::string file;
     json::Position position;
+    std::string path;
     std::string stands; ///< `an object where an array is wanted`
     std::string meant;  ///< what to do
 };
 
+/// An element of a document.
+struct DocumentEntry {
+    std::string const& file; ///< as messages show it
+    catalogue::Resource const& resource;
+    json::Entry& entry;
+    json::Places& places;
+    bool isAlone; ///< nothing else holds its value
+
+    /// Frees what was read as soon as nobody needs it any more, if that can be.
+    void forget() const
+    {
+        if (isAlone) {
+            entry.value.reset();
+            places.clear();
+        }
+    }
+};
+
 /// What is done with a document. All but the first may be left out.
 struct DocumentHandlers {
-    /// An element and the resource that it is of.
-    std::function<void(catalogue::Resource const& resource, json::Entry const& entry,
-                       json::Places const& places)>
-        onEntry;
+    std::function<void(DocumentEntry const& entry)> onEntry;
     /// Without it a wrong form is a `Failure`.
     std::function<void(WrongForm const& form)> onWrongForm;
     /// A line that cannot be read; the next ones are read all the same. Without it the fault is
     /// thrown.
     std::function<void(Failure const& fault)> onBadLine;
-    json::WideIntegerHandler onWideInteger;
+    json::MisfitHandler onMisfit;
+    json::RepeatedKeyHandler onRepeatedKey;
 };
 
 /// Reads a file as the options say: one array of elements, one element, or a value on each line,

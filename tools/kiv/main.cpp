@@ -1,12 +1,10 @@
 #include "text/Failure.h"
-#include "text/Printable.h"
 #include "text/Suggestion.h"
 #include "tools/kiv/Command.h"
 #include "tools/kiv/Interrupt.h"
 #include "tools/kiv/OutputFile.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <exception>
 #include <new>
 #include <string_view>
@@ -117,14 +115,6 @@ kiv::Exit run(std::vector<char const*> const& words)
     return run(**called, output);
 }
 
-void complain(std::string const& where, std::string const& what)
-{
-    kiv::Style const style(STDERR_FILENO);
-    std::string const line = style.strong(kiv::printable(where) + ":") + " " +
-                             style.error("error:") + " " + kiv::printable(what);
-    static_cast<void>(std::fprintf(stderr, "%s\n", line.c_str()));
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -134,11 +124,11 @@ int main(int argc, char** argv)
     } catch (kiv::Interrupted const&) {
         return static_cast<int>(kiv::Exit::Interrupted);
     } catch (kiv::Failure const& failure) {
-        complain(failure.where(), failure.what());
+        kiv::complain(failure.where(), failure.what());
     } catch (std::bad_alloc const&) {
-        complain("kiv", "out of memory");
+        kiv::complain("kiv", "out of memory");
     } catch (std::exception const& fault) {
-        complain("kiv", fault.what());
+        kiv::complain("kiv", fault.what());
     }
     return static_cast<int>(kiv::Exit::Unable);
 }

@@ -33,7 +33,7 @@ private:
             return m_entry.position;
         }
         if (key.empty()) {
-            return m_places.below(*holder)[index].position;
+            return m_places.entry(*holder, index);
         }
         auto const* const place = m_places.find(static_cast<data::Object const&>(*holder), key);
         bool const isAboutKey = finding.id == diagnostics::Id::UnknownKey;

@@ -6,10 +6,11 @@
 #include "text/Failure.h"
 #include "text/Path.h"
 #include "text/Phrases.h"
+#include "text/Printable.h"
 #include "tools/kiv/Command.h"
-#include "tools/kiv/Progress.h"
+#include "tools/kiv/Documents.h"
+#include "tools/kiv/Interrupt.h"
 #include "tools/kiv/check/Checker.h"
-#include "tools/lookup/Lookup.h"
 
 #include <algorithm>
 #include <functional>
@@ -54,6 +55,35 @@ Placed textFinding(Fate fate, Id id, json::Position position, std::string const&
     return {position, std::move(finding)};
 }
 
+Placed misfitFinding(json::Misfit misfit, json::Position position, std::string const& path,
+                     std::string const& number)
+{
+    switch (misfit) {
+    case json::Misfit::WideInteger:
+        return textFinding(Fate::Forbidden, Id::WideNumber, position, path, "the integer " + number,
+                           "no value holds it: kiv convert refuses it",
+                           "integers have 32 bits: -2147483648 to 2147483647");
+    case json::Misfit::WideNumber:
+        return textFinding(Fate::Forbidden, Id::WideNumber, position, path, "the number " + number,
+                           "no value holds it: kiv convert refuses it",
+                           "it is too large for a double");
+    case json::Misfit::TinyNumber:
+        break;
+    }
+    return textFinding(Fate::Suspect, Id::TinyNumber, position, path, "the number " + number,
+                       "it reads as 0", "a double holds none so near to zero");
+}
+
+/// What is wrong with a file, beside its findings.
+std::unique_ptr<data::Value> valueOf(Failure const& fault)
+{
+    return json::Members()
+        .with("fate", "fault")
+        .with("stands", fault.what())
+        .with("where", fault.where())
+        .take();
+}
+
 class CheckCommand : public Command {
 public:
     [[nodiscard]] std::string_view name() const override { return "check"; }
@@ -68,7 +98,7 @@ public:
 
     void declare(commandline::Arguments arguments) override
     {
-        arguments.required("RESOURCE", m_resource, "The resource, as in uris");
+        m_options.declare(arguments);
         arguments.required("FILE", m_files, "JSON files, or - for standard input");
         arguments.flag("--strict", m_strict, "Count what is merely suspect as a finding");
         arguments.optional(
@@ -79,31 +109,51 @@ public:
 
     Exit run(Console& console) override
     {
-        catalogue::Resource const& resource = resourceNamed(m_resource);
         ignore();
         auto const writer = json::makeWriter(console.output, json::Layout::Indented);
+        m_reporter = [&](std::string const& file, Placed const& placed) {
+            m_json ? writer->entry(valueOf(file, placed).get()) : print(console, file, placed);
+        };
+        m_complain = [&](Failure const& fault) {
+            m_isUnable = true;
+            m_json ? writer->entry(valueOf(fault).get()) : console.complain(fault);
+        };
+        m_flush = [&] { console.output.flush(); };
         if (m_json) {
             writer->startArray();
         }
-        for (std::string const& file : m_files) {
-            checkFile(resource, file, [&](std::string const& name, Placed const& placed) {
-                if (isPassedOver(placed.finding)) {
-                    return;
-                }
-                count(placed.finding);
-                m_json ? writer->entry(valueOf(name, placed).get()) : print(console, name, placed);
-            });
-        }
+        bool const isInterrupted = !checkFiles();
         if (m_json) {
             writer->endArray();
         } else {
             printTotals(console);
         }
+        if (isInterrupted) {
+            return Exit::Interrupted;
+        }
+        if (m_isUnable) {
+            return Exit::Unable;
+        }
         return m_findings > 0 || (m_strict && m_suspects > 0) ? Exit::Findings : Exit::Clean;
     }
 
 private:
-    using Reporter = std::function<void(std::string const& file, Placed const& placed)>;
+    /// Whatever is wrong with one file, the others are checked; false if it was interrupted.
+    bool checkFiles()
+    {
+        for (std::string const& file : m_files) {
+            try {
+                checkFile(file);
+            } catch (Failure const& fault) {
+                tellInOrder(file);
+                m_complain(fault);
+            } catch (Interrupted const&) {
+                tellInOrder(file);
+                return false;
+            }
+        }
+        return true;
+    }
 
     void ignore()
     {
@@ -118,57 +168,70 @@ private:
         return (rowOf(finding.id).isQuiet && !m_strict) || m_ignored.holds(finding);
     }
 
-    static void checkFile(catalogue::Resource const& resource, std::string const& path,
-                          Reporter const& report)
+    void checkFile(std::string const& file)
     {
-        InputFile input = openWithProgress(path);
-        std::vector<Placed> findings;
-        json::WideIntegerHandler const onWide = [&](json::Position position, std::string const& at,
-                                                    std::string const& number) {
-            findings.push_back(textFinding(Fate::Forbidden, Id::WideNumber, position, at,
-                                           "the integer " + number,
-                                           "no value holds it: kiv convert refuses it",
-                                           "integers have 32 bits: -2147483648 to 2147483647"));
+        DocumentHandlers handlers;
+        handlers.onEntry = [&](DocumentEntry const& given) {
+            static_cast<void>(readEntry(given.resource, given.entry, given.places, m_found));
+            tellInOrder(given.file);
         };
-        json::RepeatedKeyHandler const onRepeated =
-            [&](json::Position before, std::string const& at, json::Position again) {
-                findings.push_back(textFinding(Fate::Lost, Id::RepeatedKey, before, at,
-                                               "a key that stands here again in line " +
-                                                   std::to_string(again.line),
-                                               "only the last value counts", ""));
-            };
-        json::Document const rest = json::readEntries(
-            input.name, std::move(input.source),
-            [&](json::Entry const& entry, json::Places const& places) {
-                static_cast<void>(readEntry(resource, entry, places, findings));
-                tellInOrder(findings, input.name, report);
-            },
-            onWide, onRepeated);
-        if (typeOf(rest.value.get()) != Type::Array) {
-            findings.push_back(
-                textFinding(Fate::Lost, Id::WrongForm, rest.position, Path().text(),
-                            std::string(typeName(rest.value.get())) + " where an array is wanted",
-                            "the resource stays empty", "put the elements in brackets"));
-        }
-        tellInOrder(findings, input.name, report);
+        handlers.onWrongForm = [&](WrongForm const& form) {
+            m_found.push_back(textFinding(Fate::Lost, Id::WrongForm, form.position, form.path,
+                                          form.stands, "nothing is read of it", form.meant));
+            tellInOrder(form.file);
+        };
+        handlers.onBadLine = [&](Failure const& fault) {
+            tellInOrder(file);
+            m_complain(fault);
+        };
+        handlers.onMisfit = [&](json::Misfit misfit, json::Position position,
+                                std::string const& path, std::string const& number) {
+            m_misfits.push_back(misfitFinding(misfit, position, path, number));
+        };
+        handlers.onRepeatedKey = [&](json::Position before, std::string const& path,
+                                     json::Position again) {
+            m_found.push_back(
+                textFinding(Fate::Lost, Id::RepeatedKey, before, path,
+                            "a key that stands here again in line " + std::to_string(again.line),
+                            "only the last value counts", ""));
+        };
+        readDocuments(file, m_options, handlers);
+        tellInOrder(file == "-" ? "<stdin>" : file);
     }
 
-    /// In the order of the file, which the library does not keep to.
-    static void tellInOrder(std::vector<Placed>& findings, std::string const& file,
-                            Reporter const& report)
+    /// In the order of the file, which the library does not keep to. What stands in for a number
+    /// that no value holds has no findings of its own.
+    void tellInOrder(std::string const& file)
     {
-        std::ranges::stable_sort(findings, {}, [](Placed const& each) {
+        auto const place = [](Placed const& each) {
             return std::pair(each.position.line, each.position.column);
+        };
+        std::erase_if(m_found, [&](Placed const& each) {
+            return each.finding.id != Id::UnknownKey &&
+                   std::ranges::find(m_misfits, place(each), place) != m_misfits.end();
         });
-        for (Placed const& placed : findings) {
-            report(file, placed);
+        m_found.insert(m_found.end(), m_misfits.begin(), m_misfits.end());
+        m_misfits.clear();
+        std::ranges::stable_sort(m_found, {}, place);
+        bool const isAny = !m_found.empty();
+        for (Placed const& placed : std::exchange(m_found, {})) {
+            if (!isPassedOver(placed.finding)) {
+                count(placed.finding);
+                m_reporter(file, placed);
+            }
         }
-        findings.clear();
+        if (isAny) { // somebody may wait for it, through a pipe as well
+            m_flush();
+        }
     }
 
     void count(Finding const& finding)
     {
-        ++(finding.fate == Fate::Suspect ? m_suspects : m_findings);
+        m_isReadOtherwise = m_isReadOtherwise || finding.id == Id::OtherType;
+        // A reference that was hardly meant to lead outside must not pass for one.
+        bool const isMisspelt =
+            finding.id == Id::NoTarget && finding.meant.starts_with("did you mean");
+        ++(finding.fate == Fate::Suspect && !isMisspelt ? m_suspects : m_findings);
     }
 
     static void print(Console& console, std::string const& file, Placed const& placed)
@@ -177,10 +240,11 @@ private:
         bool const isError = finding.fate == Fate::Forbidden;
         std::string const word =
             std::string(wordOf(finding.fate)) + " [" + std::string(rowOf(finding.id).name) + "]:";
-        console.output.write(console.style.strong(json::placeText(file, placed.position) + ":") +
-                             " " + (isError ? console.style.error(word) : word) + " " +
-                             finding.path + " is " + finding.stands + "; " + finding.becomes +
-                             (finding.meant.empty() ? "" : "; " + finding.meant) + "\n");
+        std::string const words = finding.path + " is " + finding.stands + "; " + finding.becomes +
+                                  (finding.meant.empty() ? "" : "; " + finding.meant);
+        console.output.write(
+            console.style.strong(printable(json::placeText(file, placed.position)) + ":") + " " +
+            (isError ? console.style.error(word) : word) + " " + printable(words) + "\n");
     }
 
     void printTotals(Console& console) const
@@ -189,9 +253,13 @@ private:
             m_suspects == 0 ? "" : ", " + counted(m_suspects, "suspect place");
         console.output.write(counted(m_findings, "finding") + suspects + " in " +
                              counted(m_files.size(), "file") + "\n");
+        if (m_isReadOtherwise) {
+            console.output.write("what a value of another type reads as is up to the platform's "
+                                 "value library; this is what the one at hand makes of it\n");
+        }
     }
 
-    std::string m_resource;
+    DocumentOptions m_options;
     std::vector<std::string> m_files;
     std::string m_ignore;
     diagnostics::Ignored m_ignored;
@@ -199,6 +267,13 @@ private:
     bool m_json = false;
     std::size_t m_findings = 0;
     std::size_t m_suspects = 0;
+    bool m_isUnable = false;
+    bool m_isReadOtherwise = false; ///< some value was of another type
+    std::vector<Placed> m_found;    ///< in the entry that is read just now
+    std::vector<Placed> m_misfits;
+    std::function<void(std::string const& file, Placed const& placed)> m_reporter;
+    std::function<void(Failure const& fault)> m_complain;
+    std::function<void()> m_flush;
 };
 
 } // namespace

@@ -3,9 +3,8 @@
 #include "json/JsonWriter.h"
 #include "text/Failure.h"
 #include "tools/kiv/Command.h"
-#include "tools/kiv/Progress.h"
+#include "tools/kiv/Documents.h"
 #include "tools/kiv/check/Checker.h"
-#include "tools/lookup/Lookup.h"
 
 #include <array>
 
@@ -40,7 +39,7 @@ public:
 
     void declare(commandline::Arguments arguments) override
     {
-        arguments.required("RESOURCE", m_resource, "The resource, as in uris");
+        m_options.declare(arguments);
         arguments.required("FILE", m_file, "The JSON file, or - for standard input");
         arguments.choice("--form", m_form, formNames(),
                          "full: with nested elements; shallow: nested elements as their uri; "
@@ -54,18 +53,32 @@ public:
     /// needs no more memory than its largest entry.
     Exit run(Console& console) override
     {
-        catalogue::Resource const& resource = resourceNamed(m_resource);
-        InputFile input = openWithProgress(m_file);
-        auto const writer = json::makeWriter(console.output, m_compact ? json::Layout::Compact
-                                                                       : json::Layout::Indented);
-        writer->startArray();
-        json::readEntries(input.name, std::move(input.source),
-                          [&](json::Entry const& entry, json::Places const& places) {
-                              auto const element = readEntry(resource, entry, places, input.name);
-                              writer->entry(element->serialize(type()).get());
-                          });
-        writer->endArray();
-        return Exit::Clean;
+        auto const writer = json::makeWriter(console.output, layout());
+        bool const isList = !m_options.lines && !m_options.element;
+        bool isWhole = true;
+        DocumentHandlers handlers;
+        handlers.onEntry = [&](DocumentEntry const& given) {
+            std::unique_ptr<data::Value> const value = converted(given);
+            isList ? writer->entry(value.get()) : writeLine(console, *value);
+        };
+        handlers.onWrongForm = [&](WrongForm const& form) {
+            isWhole = isList; // the library reads a list of none, but of an element nothing at all
+            console.complain(Failure(json::placeText(form.file, form.position),
+                                     form.stands + "; nothing is read of it" +
+                                         (form.meant.empty() ? "" : "; " + form.meant)));
+        };
+        handlers.onBadLine = [&](Failure const& fault) {
+            isWhole = false;
+            console.complain(fault);
+        };
+        if (isList) {
+            writer->startArray();
+        }
+        readDocuments(m_file, m_options, handlers);
+        if (isList) {
+            writer->endArray();
+        }
+        return isWhole ? Exit::Clean : Exit::Unable;
     }
 
 private:
@@ -79,6 +92,24 @@ private:
         return names;
     }
 
+    /// Only two of document, element and result are in memory at any time.
+    [[nodiscard]] std::unique_ptr<data::Value> converted(DocumentEntry const& given) const
+    {
+        auto const element = readEntry(given.resource, given.entry, given.places, given.file);
+        given.forget();
+        return element->serialize(type());
+    }
+
+    void writeLine(Console& console, data::Value const& value) const
+    {
+        json::makeWriter(console.output, layout())->document(&value);
+    }
+
+    [[nodiscard]] json::Layout layout() const
+    {
+        return m_compact || m_options.lines ? json::Layout::Compact : json::Layout::Indented;
+    }
+
     [[nodiscard]] SerializationType type() const
     {
         auto const* const form = std::find_if(
@@ -86,7 +117,7 @@ private:
         return form->type;
     }
 
-    std::string m_resource;
+    DocumentOptions m_options;
     std::string m_file;
     std::string m_form = std::string(forms.front().name);
     bool m_compact = false;

@@ -1,17 +1,54 @@
-#include "frame/IObjectBase.h"
 #include "json/JsonWriter.h"
-#include "json/TypeNames.h"
+#include "json/Make.h"
 #include "testing/difference.h"
-#include "text/Failure.h"
 #include "text/Path.h"
+#include "text/Printable.h"
 #include "tools/kiv/Command.h"
-#include "tools/kiv/Progress.h"
-#include "tools/kiv/check/Checker.h"
+#include "tools/kiv/diff/ElementFeed.h"
 #include "tools/lookup/Lookup.h"
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <utility>
+#include <vector>
 
 namespace kiv {
 
 namespace {
+
+/// The elements of one document whose partner in the other has not come yet, by what pairs them. Of
+/// several with the same, the first comes first.
+using Waiting = std::multimap<std::string, FullElement>;
+
+std::optional<FullElement> taken(Waiting& waiting, std::string const& key)
+{
+    auto const found = waiting.lower_bound(key);
+    if (found == waiting.end() || found->first != key) {
+        return std::nullopt;
+    }
+    FullElement element = std::move(found->second);
+    waiting.erase(found);
+    return element;
+}
+
+/// A place where two elements differ; null stands for a value that is not there.
+struct Difference {
+    std::string path; ///< in A, unless it is B alone that has the element
+    data::Value const* a;
+    data::Value const* b;
+    std::size_t placeA; ///< of the elements in their documents
+    std::size_t placeB;
+};
+
+std::string textAt(data::Value const& value, std::string const& key)
+{
+    auto const& map = static_cast<data::Object const&>(value).get();
+    auto const found = map.find(key);
+    return found == map.end()
+               ? std::string()
+               : data::Ref(static_cast<data::Value const*>(found->second)).asString();
+}
 
 class DiffCommand : public Command {
 public:
@@ -27,58 +64,133 @@ public:
 
     void declare(commandline::Arguments arguments) override
     {
-        arguments.required("RESOURCE", m_resource, "The resource, as in uris");
+        m_options.declare(arguments);
         arguments.required("A", m_left, "A JSON file, or - for standard input");
         arguments.required("B", m_right, "Another one");
+        arguments.choice("--by", m_by, {"uri", "id", "place"},
+                         "What pairs elements: the uri, or else the id, or else the place; the id, "
+                         "or else the place; the place alone");
+        arguments.flag("--json", m_json, "Write the differences as JSON");
     }
 
+    /// Both documents are read side by side. An element is held only until its partner comes, so
+    /// that documents in the same order need no more memory than a few elements.
     Exit run(Console& console) override
     {
-        catalogue::Resource const& resource = resourceNamed(m_resource);
-        auto const left = readInFull(resource, m_left);
-        auto const right = readInFull(resource, m_right);
-        bool same = true;
-        Path path;
-        zel::kiv::testing::compare(
-            path, left.get(), right.get(),
-            [&](Path const& place, data::Value const* a, data::Value const* b) {
-                same = false;
-                print(console, place, a, b);
-            });
-        return same ? Exit::Clean : Exit::Findings;
+        auto const writer = json::makeWriter(console.output, json::Layout::Indented);
+        if (m_json) {
+            writer->startArray();
+        }
+        m_tell = [&](Difference const& difference) {
+            m_isSame = false;
+            m_json ? writer->entry(valueOf(difference).get()) : print(console, difference);
+        };
+        comparePairs();
+        if (m_json) {
+            writer->endArray();
+        }
+        return m_isSame ? Exit::Clean : Exit::Findings;
     }
 
 private:
-    static std::unique_ptr<data::Array> readInFull(catalogue::Resource const& resource,
-                                                   std::string const& path)
+    void comparePairs()
     {
-        auto entries = std::make_unique<data::Array>();
-        InputFile input = openWithProgress(path);
-        json::Document const rest = json::readEntries(
-            input.name, std::move(input.source),
-            [&](json::Entry const& entry, json::Places const& places) {
-                auto const element = readEntry(resource, entry, places, input.name);
-                entries->pushNew(element->serialize(common::SerializationType::Full).release());
-            });
-        refuseAllButArray(input.name, rest);
-        return entries;
+        ElementFeed feedA(m_left, m_options);
+        ElementFeed feedB(m_right, m_options);
+        Waiting waitingA;
+        Waiting waitingB;
+        auto a = feedA.next();
+        auto b = feedB.next();
+        while (a || b) {
+            if (a) {
+                auto partner = pair(*a, waitingB, waitingA);
+                if (partner) {
+                    compare(*a, *partner);
+                }
+                a = feedA.next();
+            }
+            if (b) {
+                auto partner = pair(*b, waitingA, waitingB);
+                if (partner) {
+                    compare(*partner, *b);
+                }
+                b = feedB.next();
+            }
+        }
+        tellAlone(waitingA, true);
+        tellAlone(waitingB, false);
     }
 
-    /// The library would read anything else as no elements, and two such documents as the same.
-    static void refuseAllButArray(std::string const& file, json::Document const& document)
+    /// The partner of an element if it is among those of the other side; otherwise the element
+    /// waits among those of its own.
+    std::optional<FullElement> pair(FullElement& element, Waiting& others, Waiting& own) const
     {
-        data::Value const* const top = document.value.get();
-        if (top == nullptr || top->getType() != data::ValueType::Array) {
-            throw Failure(json::placeText(file, document.position),
-                          std::string(typeName(top)) +
-                              " where an array is wanted; put the elements in brackets");
+        std::string const key = keyOf(element);
+        auto partner = taken(others, key);
+        if (!partner) {
+            own.emplace(key, std::move(element));
+        }
+        return partner;
+    }
+
+    [[nodiscard]] std::string keyOf(FullElement const& element) const
+    {
+        std::string const resource = nameOf(element.resource) + ' ';
+        std::string const uri = m_by == "uri" ? textAt(*element.value, "uri") : "";
+        std::string const id = m_by == "place" ? "" : textAt(*element.value, "id");
+        if (!uri.empty()) {
+            return resource + "uri " + uri;
+        }
+        return resource + (id.empty() ? "place " + std::to_string(element.index) : "id " + id);
+    }
+
+    void compare(FullElement const& a, FullElement const& b)
+    {
+        Path path;
+        path.enter(a.index);
+        zel::kiv::testing::compare(
+            path, a.value.get(), b.value.get(),
+            [&](Path const& place, data::Value const* left, data::Value const* right) {
+                m_tell({place.text(), left, right, a.index, b.index});
+            });
+    }
+
+    /// Tells of those that have no partner, in the order of the file.
+    void tellAlone(Waiting const& waiting, bool isA)
+    {
+        std::vector<FullElement const*> alone;
+        for (auto const& [key, element] : waiting) {
+            alone.push_back(&element);
+        }
+        std::ranges::sort(alone, {}, &FullElement::index);
+        for (auto const* element : alone) {
+            Path path;
+            path.enter(element->index);
+            m_tell({path.text(), isA ? element->value.get() : nullptr,
+                    isA ? nullptr : element->value.get(), element->index, element->index});
         }
     }
 
-    static void print(Console& console, Path const& path, data::Value const* a,
-                      data::Value const* b)
+    static std::unique_ptr<data::Value> valueOf(Difference const& difference)
     {
-        console.output.write(console.style.strong(path.text() + ":") + " ");
+        json::Members members;
+        for (auto const& [key, value] :
+             {std::pair("a", difference.a), std::pair("b", difference.b)}) {
+            if (value != nullptr) {
+                members.with(key, json::ValuePointer(value->clone()));
+            }
+        }
+        if (difference.placeA != difference.placeB) {
+            members.with("movedTo", json::number(difference.placeB));
+        }
+        return members.with("path", difference.path).take();
+    }
+
+    static void print(Console& console, Difference const& difference)
+    {
+        auto const& [path, a, b, placeA, placeB] = difference;
+        std::string const moved = placeA == placeB ? "" : " (B: [" + std::to_string(placeB) + "])";
+        console.output.write(console.style.strong(printable(path) + moved + ":") + " ");
         if (a == nullptr || b == nullptr) {
             console.output.write(a == nullptr ? "only in B: " : "only in A: ");
             write(console, a == nullptr ? b : a);
@@ -95,9 +207,13 @@ private:
         json::makeWriter(console.output, json::Layout::Compact)->entry(value);
     }
 
-    std::string m_resource;
+    DocumentOptions m_options;
     std::string m_left;
     std::string m_right;
+    std::string m_by = "uri";
+    bool m_json = false;
+    bool m_isSame = true;
+    std::function<void(Difference const& difference)> m_tell;
 };
 
 } // namespace
