@@ -135,8 +135,9 @@ def build(services, folder):
     exports = next(pathlib.Path(source).glob("*/exports.map"))
     run([*compiler, "-shared", f"-Wl,-rpath,{paths},--version-script={exports}", "-o", library,
          *objects[:len(services)], *frame, *platform])
-    run([*compiler, f"-Wl,-rpath,{paths}", "-o", kivHere, *tool, *objects[len(services):],
-         "-Wl,--start-group", *tool[1:], "-Wl,--end-group", library, *platform])
+    # kiv holds the classes itself, with the frame that tells.
+    run([*compiler, f"-Wl,-rpath,{paths}", "-o", kivHere, "-Wl,--start-group", *tool, *objects,
+         "-Wl,--end-group", *platform])
     return library, kivHere
 
 
