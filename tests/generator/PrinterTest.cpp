@@ -25,6 +25,11 @@ TEST(Printer, BreaksOnlyWhereTheLineIsFullAndNoWordInTwo)
         "    call(" + rest + ");\n");
     EXPECT_EQ(kivgen::wrapped("call(", {rest + 'r'}, ",", ");").at(4),
               "    call(\n        " + rest + "r);\n");
+    std::string const second(100 - 8 - 2, 's');
+    EXPECT_EQ(kivgen::wrapped("call(", {"a", second}, ",", ");").at(0),
+              "call(a, " + second + ");\n");
+    EXPECT_EQ(kivgen::wrapped("call(", {"a", second + 's'}, ",", ");").at(0),
+              "call(a,\n     " + second + "s);\n");
 }
 
 } // namespace
