@@ -131,8 +131,7 @@ void ReadingTrail::tellUnknown(Level const& level, std::string_view key, bool is
     top().key = key;
     Row const* const row = rowOf(level);
     std::string const home = row == nullptr ? "" : homeOf(*row, key);
-    tell(here(isNull ? Fate::Suspect : Fate::Lost, Id::UnknownKey),
-         "no key of " + nameOf(row),
+    tell(here(isNull ? Fate::Suspect : Fate::Lost, Id::UnknownKey), "no key of " + nameOf(row),
          isNull ? "it is passed over, like every null" : "it is passed over",
          home.empty() ? guess(key, level.asked) : home);
     top().key = {};

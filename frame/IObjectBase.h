@@ -12,8 +12,8 @@ namespace zel::kiv::common {
 
 /// Base of every element: one object of a resource, with typed fields that may or may not be set.
 ///
-/// The accessors of all fields are alike. A setter or adder sets its field whatever the value, be it
-/// zero, empty or null, and `is…Set` tells that; nothing unsets a field. A getter does not ask
+/// The accessors of all fields are alike. A setter or adder sets its field whatever the value, be
+/// it zero, empty or null, and `is…Set` tells that; nothing unsets a field. A getter does not ask
 /// whether the field is set. Of a list it gives a copy; adders append to the list.
 ///
 /// An element owns what its fields hold: setters and adders take elements over, getters lend them.
