@@ -76,6 +76,42 @@ std::string textUnder(data::Value const* entry, char const* key)
     return found == map.end() ? "" : Ref(static_cast<data::Value const*>(found->second)).asString();
 }
 
+/// The operation of `Ref` that the field of a finding is read by.
+std::string_view operationFor(diagnostics::Finding const& finding)
+{
+    using zel::kiv::catalogue::Content;
+    if (finding.holder != nullptr) {
+        for (auto const& field : finding.holder->fields) {
+            if (field.key != finding.key) {
+                continue;
+            }
+            switch (zel::kiv::catalogue::traitsOf(field.kind).content) {
+            case Content::Integer:
+                return "asInteger";
+            case Content::Float:
+                return "asFloat";
+            case Content::Boolean:
+                return "asBoolean";
+            case Content::String:
+            case Content::Object:
+                break;
+            }
+        }
+    }
+    return "asString";
+}
+
+data::Value const* valueOf(diagnostics::Place const& place)
+{
+    if (place.holder->getType() == ValueType::Object) {
+        auto const& map = static_cast<data::Object const*>(place.holder)->get();
+        return static_cast<data::Value const*>(map.find(std::string(place.key))->second);
+    }
+    // The getter of an array is not const, though it changes nothing.
+    return const_cast<data::Array&>(static_cast<data::Array const&>(*place.holder))
+        .get()[place.index];
+}
+
 } // namespace
 
 Platform::Platform(std::string const& path)
@@ -97,29 +133,49 @@ Platform::Platform(std::string const& path)
 std::optional<std::string> Platform::reads(std::string_view operation,
                                            data::Value const& value) const
 {
-    std::string const asked = std::string(operation) + " of " + nameOf(value);
-    // What a plain value is stands behind its type.
-    std::string const type = asked.substr(0, asked.find(' ', asked.find(" of ") + 4) + 1);
+    std::string const name = nameOf(value);
+    std::string const start = std::string(operation) + " of ";
+    // What a plain value is stands behind its type; any other has one sample.
+    std::string const type = start + name.substr(0, name.find(' ') + 1);
+    bool const isPlain = !name.starts_with("a");
     std::vector<Sample> alike;
     for (Sample const& sample : m_samples) {
-        if (sample.what == asked) {
+        if (sample.what == start + name) {
             return sample.seen;
         }
-        if (sample.what.starts_with(type)) {
+        if (isPlain && sample.what.starts_with(type)) {
             alike.push_back(sample);
         }
     }
     if (alike.empty()) {
         return std::nullopt;
     }
-    if (std::ranges::all_of(alike, [&](auto const& each) { return each.seen == alike[0].seen; })) {
-        return alike[0].seen;
-    }
     bool const isAsStandIns = std::ranges::all_of(alike, [&](Sample const& each) {
         auto const sample = valueNamed(each.what.substr(type.size()), value);
         return sample != nullptr && standInReads(operation, *sample) == each.seen;
     });
-    return isAsStandIns ? std::optional(standInReads(operation, value)) : std::nullopt;
+    if (isAsStandIns) {
+        return standInReads(operation, value);
+    }
+    bool const isOneAnswer = std::ranges::all_of(
+        alike, [&](Sample const& each) { return each.seen == alike.front().seen; });
+    return isOneAnswer ? std::optional(alike.front().seen) : std::nullopt;
+}
+
+void Platform::apply(diagnostics::Finding& finding) const
+{
+    if (finding.id != diagnostics::Id::OtherType || finding.place.holder == nullptr) {
+        return;
+    }
+    auto const seen = reads(operationFor(finding), *valueOf(finding.place));
+    if (!seen) {
+        finding.becomes += " on the stand-ins, and the report does not tell of this platform";
+    } else if (seen->starts_with("throws")) {
+        finding.fate = diagnostics::Fate::Lost;
+        finding.becomes = "this platform throws";
+    } else {
+        finding.becomes = "it reads as " + *seen;
+    }
 }
 
 } // namespace kiv

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "diagnostics/Finding.h"
 #include "json/ValueNames.h"
 
 #include <optional>
@@ -22,6 +23,10 @@ public:
     /// stand-ins.
     [[nodiscard]] std::optional<std::string> reads(std::string_view operation,
                                                    data::Value const& value) const;
+
+    /// Makes a finding on a value of another type say what that platform makes of it. The value
+    /// must still be there.
+    void apply(diagnostics::Finding& finding) const;
 
 private:
     struct Sample {

@@ -11,9 +11,11 @@
 #include "tools/kiv/Documents.h"
 #include "tools/kiv/Interrupt.h"
 #include "tools/kiv/check/Checker.h"
+#include "tools/kiv/check/Platform.h"
 
 #include <algorithm>
 #include <functional>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -104,12 +106,18 @@ public:
         arguments.optional(
             "--ignore", m_ignore,
             "Findings to pass over, by id: unknown-key,odd-uri:radio/presets.station");
+        arguments.optional("--platform", m_platformReport,
+                           "What a platform check has written with --json: what is read is told of "
+                           "that platform");
         arguments.flag("--json", m_json, "Write the findings as JSON");
     }
 
     Exit run(Console& console) override
     {
         ignore();
+        if (!m_platformReport.empty()) {
+            m_platform.emplace(m_platformReport);
+        }
         auto const writer = json::makeWriter(console.output, json::Layout::Indented);
         m_reporter = [&](std::string const& file, Placed const& placed) {
             m_json ? writer->entry(valueOf(file, placed).get()) : print(console, file, placed);
@@ -168,11 +176,22 @@ private:
         return (rowOf(finding.id).isQuiet && !m_strict) || m_ignored.holds(finding);
     }
 
+    /// While the values that were read are still there.
+    void tellOfPlatform()
+    {
+        if (m_platform) {
+            for (Placed& placed : m_found) {
+                m_platform->apply(placed.finding);
+            }
+        }
+    }
+
     void checkFile(std::string const& file)
     {
         DocumentHandlers handlers;
         handlers.onEntry = [&](DocumentEntry const& given) {
             static_cast<void>(readEntry(given.resource, given.entry, given.places, m_found));
+            tellOfPlatform();
             tellInOrder(given.file);
         };
         handlers.onWrongForm = [&](WrongForm const& form) {
@@ -253,7 +272,7 @@ private:
             m_suspects == 0 ? "" : ", " + counted(m_suspects, "suspect place");
         console.output.write(counted(m_findings, "finding") + suspects + " in " +
                              counted(m_files.size(), "file") + "\n");
-        if (m_isReadOtherwise) {
+        if (m_isReadOtherwise && !m_platform) {
             console.output.write("what a value of another type reads as is up to the platform's "
                                  "value library; this is what the one at hand makes of it\n");
         }
@@ -262,6 +281,8 @@ private:
     DocumentOptions m_options;
     std::vector<std::string> m_files;
     std::string m_ignore;
+    std::string m_platformReport;
+    std::optional<Platform> m_platform;
     diagnostics::Ignored m_ignored;
     bool m_strict = false;
     bool m_json = false;
