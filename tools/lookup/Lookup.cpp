@@ -68,7 +68,7 @@ std::string hintFor(std::string_view name)
             known.insert(known.end(), {resource.name, resource.element});
         }
         std::ranges::sort(known);
-        known.erase(std::ranges::unique(known).begin(), known.end());
+        known.erase(std::unique(known.begin(), known.end()), known.end());
         hint = didYouMean(name, known);
     }
     return hint + " (kiv list shows all services, kiv list SERVICE its resources)";

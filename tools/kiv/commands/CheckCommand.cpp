@@ -149,18 +149,27 @@ private:
     /// Whatever is wrong with one file, the others are checked; false if it was interrupted.
     bool checkFiles()
     {
-        for (std::string const& file : m_files) {
-            try {
-                checkFile(file);
-            } catch (Failure const& fault) {
-                tellInOrder(file);
-                m_complain(fault);
-            } catch (Interrupted const&) {
-                tellInOrder(file);
-                return false;
+        try {
+            for (std::string const& file : m_files) {
+                checkOrComplain(file);
             }
+        } catch (Interrupted const&) {
+            return false;
         }
         return true;
+    }
+
+    void checkOrComplain(std::string const& file)
+    {
+        try {
+            checkFile(file);
+        } catch (Failure const& fault) {
+            tellInOrder(file);
+            m_complain(fault);
+        } catch (Interrupted const&) {
+            tellInOrder(file);
+            throw;
+        }
     }
 
     void ignore()
