@@ -28,6 +28,9 @@ demo: ## build and run the main job on the bundled example
 	@echo
 	@echo "The same with a fault in the service, of which nobody says a word:"
 	@examples/radio/run build/release/examples --faulty
+	@echo
+	@echo "Once more, under the library that tells:"
+	@PLAYER_UNDER="build/release/tools/kiv/kiv trace" examples/radio/run build/release/examples --faulty
 
 test: ## build everything and run all tests
 	@scripts/install-packages build reference
