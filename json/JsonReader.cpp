@@ -3,6 +3,12 @@
 #include "json/ValueBuilder.h"
 #include "text/Failure.h"
 
+// The reader is asked for the text of a number, and yet gives up at one that is too large for a
+// double. RapidJSON lets its user say what an error does: this one does nothing, and the text is
+// told.
+#define RAPIDJSON_PARSE_ERROR_NORETURN(code, offset)                                               \
+    static_cast<void>((code) == kParseErrorNumberTooBig || (SetParseError(code, offset), true))
+
 #include <rapidjson/error/en.h>
 #include <rapidjson/reader.h>
 
@@ -75,9 +81,6 @@ std::string faultWords(Fault fault, PositionedStream const& stream)
     }
     if (fault == rapidjson::kParseErrorStringInvalidEncoding) {
         return "this text is not in UTF-8";
-    }
-    if (fault == rapidjson::kParseErrorNumberTooBig) {
-        return "this number is too large for a double";
     }
     if (fault == rapidjson::kParseErrorDocumentRootNotSingular) {
         return "the document has ended before this; of a file with a document on each line, kiv reads "

@@ -142,7 +142,7 @@ TEST(JsonReader, refusesWhatIsNoJsonAndSaysWhere)
         {"12345678901", "f:1:1 the integer 12345678901 at the top does not fit into 32 bits "
                         "(-2147483648 to 2147483647)"},
         {"[10e308]", "f:1:2 the number 10e308 at [0] is too large for a double"},
-        {"[1e309]", "f:1:2 this number is too large for a double"},
+        {"[1e309]", "f:1:2 the number 1e309 at [0] is too large for a double"},
     };
     for (auto const& each : cases) {
         EXPECT_EQ(faultOf(each.text), each.fault);
