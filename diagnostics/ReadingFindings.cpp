@@ -45,7 +45,18 @@ std::string readAs(Plain kind, data::Value const& value)
     return {};
 }
 
-bool fits(Plain kind, Type type)
+/// Whether the platform reads the same number from it either way, 5 from 5.0 and the reverse.
+bool isSameNumber(data::Value const& value)
+{
+    data::Ref const ref(&value);
+    try {
+        return static_cast<double>(ref.asInteger()) == ref.asFloat();
+    } catch (...) {
+        return false;
+    }
+}
+
+bool fits(Plain kind, Type type, data::Value const& value)
 {
     switch (kind) {
     case Plain::String:
@@ -53,21 +64,11 @@ bool fits(Plain kind, Type type)
     case Plain::Bool:
         return type == Type::Boolean;
     case Plain::Double:
-        return type == Type::Float || type == Type::Integer;
+        return type == Type::Float || (type == Type::Integer && isSameNumber(value));
     case Plain::Int:
         return type == Type::Integer;
     }
     return false;
-}
-
-/// Whether the same number arrives, in another type: 5 for 5.0.
-bool isSameNumber(Plain kind, Type type, data::Value const& value)
-{
-    if (kind != Plain::Int || type != Type::Float) {
-        return false;
-    }
-    data::Ref const ref(&value);
-    return static_cast<double>(ref.asInteger()) == ref.asFloat();
 }
 
 /// The uri of an object, which is empty if it has none that is text.
@@ -140,19 +141,20 @@ void ReadingTrail::tellUnknown(Level const& level, std::string_view key, bool is
 void ReadingTrail::readPlain(Plain kind, data::Value const& value)
 {
     Type const type = typeOf(&value);
-    if (fits(kind, type)) {
+    if (fits(kind, type, value)) {
         return;
     }
-    std::string const stands = wanted(&value, wantedByKind[static_cast<std::size_t>(kind)]);
-    Finding finding = here(Fate::Changed, Id::OtherType);
-    std::string becomes = "the value library refuses it";
+    std::string const stands = kind == Plain::Double && type == Type::Integer
+                                   ? "an integer where a floating-point number is wanted"
+                                   : wanted(&value, wantedByKind[static_cast<std::size_t>(kind)]);
+    bool const isSame = kind == Plain::Int && type == Type::Float && isSameNumber(value);
+    Finding finding = here(isSame ? Fate::Suspect : Fate::Changed, Id::OtherType);
+    std::string becomes;
     try {
-        if (isSameNumber(kind, type, value)) {
-            finding.fate = Fate::Suspect;
-        }
         becomes = "it reads as " + readAs(kind, value);
     } catch (...) { // the library asks again, and its caller gets to know
         finding.fate = Fate::Lost;
+        becomes = "the value library refuses it";
     }
     tell(std::move(finding), stands, becomes);
 }

@@ -5,6 +5,7 @@
 #include "services/radio/Stations.h"
 
 #include <csignal>
+#include <exception>
 #include <iostream>
 #include <string>
 #include <thread>
@@ -32,6 +33,34 @@ std::unique_ptr<Array> bent()
 void read()
 {
     radio::Presets().deserialize(bent().get());
+}
+
+template <typename Target>
+void tryToRead(Target target, Value const* value)
+{
+    try {
+        target.deserialize(value);
+    } catch (std::exception const&) {
+        std::cout << "refused\n";
+    }
+}
+
+/// What some platforms refuse, each after the other has ended.
+void readRefused()
+{
+    tryToRead(radio::Presets(), bent().get());
+    auto* const station = new Object;
+    station->setNew("uri", new String("/radio/stations/7"));
+    station->setNew("name", new Integer(5));
+    Object preset;
+    preset.setNew("station", station);
+    tryToRead(radio::Presets::PresetObject(), &preset);
+    Array null;
+    null.pushNew(nullptr);
+    tryToRead(radio::Presets(), &null);
+    Object odd;
+    odd.setNew("co\nlour", new Integer(1));
+    tryToRead(radio::Presets::PresetObject(), &odd);
 }
 
 void readAtOnce()
@@ -86,6 +115,8 @@ int main(int, char** arguments)
     std::string const what = arguments[1];
     if (what == "threads") {
         readAtOnce();
+    } else if (what == "refused") {
+        readRefused();
     } else if (what == "slot") {
         writeNullSlot();
     } else if (what == "element") {

@@ -54,7 +54,7 @@ void Array::pushNew(Value* value)
 
 Object::~Object()
 {
-    for (auto const& entry : m_entries) {
+    for (auto const& entry : m_entries.held()) {
         delete static_cast<Value*>(entry.second);
     }
 }
@@ -67,7 +67,7 @@ void Object::dispatch(ConstVisitor& visitor) const
 Value* Object::clone() const
 {
     auto copy = std::make_unique<Object>();
-    for (auto const& entry : m_entries) {
+    for (auto const& entry : m_entries.held()) {
         copy->setNew(entry.first.c_str(), cloneOf(static_cast<Value const*>(entry.second)));
     }
     return copy.release();
@@ -75,7 +75,7 @@ Value* Object::clone() const
 
 void Object::setNew(char const* key, Value* value)
 {
-    if (!m_entries.emplace(key, value).second) {
+    if (!m_entries.held().emplace(key, value).second) {
         delete value;
         throw std::logic_error("a key twice in one object");
     }
@@ -106,6 +106,9 @@ ConstVisitor::~ConstVisitor() = default;
 int ConstVisitor::visit(Value const* value)
 {
     if (value == nullptr) {
+#ifdef OTHER_PLATFORM_IS_BARE
+        throw std::invalid_argument("no value");
+#endif
         return -1;
     }
     value->dispatch(*this);

@@ -9,7 +9,8 @@
 
 // Another implementation of what the library takes from its platform, made to differ from the
 // stand-ins wherever it may: whatever the library leans on that nobody has promised breaks here.
-// What reading needs beyond that (walking a map, the plain values) is for the tests.
+// What reading needs beyond that (walking a map, the plain values) is for the tests; with
+// `OTHER_PLATFORM_IS_BARE` a map cannot be walked.
 
 namespace zel::common::types {
 
@@ -20,10 +21,27 @@ struct BufferDescriptor {
     std::uint32_t length;
 };
 
+#ifdef OTHER_PLATFORM_IS_BARE
+/// Holds its map, and can be asked for a key and nothing else.
+template <typename K, typename V>
+class PtrMap : private std::map<K, void*> {
+    using Held = std::map<K, void*>;
+
+public:
+    using Held::end;
+    using Held::find;
+    Held const& held() const { return *this; }
+    Held& held() { return *this; }
+};
+#else
 /// Is its map, and can be walked through as one.
 template <typename K, typename V>
 class PtrMap : public std::map<K, void*> {
+public:
+    std::map<K, void*> const& held() const { return *this; }
+    std::map<K, void*>& held() { return *this; }
 };
+#endif
 
 /// Hands out plain pointers.
 template <typename V>
@@ -52,7 +70,7 @@ public:
     virtual void visitArray(zel::common::types::PtrVector<Value> const& entries) = 0;
     virtual void visitObject(zel::common::types::PtrMap<std::string, Value> const& entries) = 0;
 
-    /// Calls nothing for a null pointer.
+    /// Calls nothing for a null pointer, or throws if the platform is bare.
     int visit(Value const* value);
 };
 
