@@ -48,8 +48,8 @@ TEST(Testing, NamesEachPlaceOfADifference)
         char const* words;
     } const cases[] = {
         {R"({"a":[1,{}],"b":null})", R"({"b":null,"a":[1,{}]})", ""},
-        {R"({"a":1,"c":"x"})", R"({"b":[2],"c":"y"})",
-         "a: nothing, but expected was 1\nb: [2], but expected was nothing\n"
+        {R"({"a":1,"c":"x"})", R"({"b0":[2],"c":"y"})",
+         "a: nothing, but expected was 1\nb0: [2], but expected was nothing\n"
          "c: \"y\", but expected was \"x\""},
         {R"([{"a b":[true]}])", R"([{"a b":[]},1.0])",
          "[0][\"a b\"][0]: nothing, but expected was true\n[1]: 1.0, but expected was nothing"},
