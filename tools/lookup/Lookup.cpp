@@ -98,6 +98,7 @@ catalogue::Resource const& resourceNamed(std::string_view name)
         throw Failure("no resource " + inQuotes(name) + hintFor(name));
     }
     std::vector<std::string> names;
+    names.reserve(found.size());
     for (auto const* resource : found) {
         names.push_back("'" + nameOf(resource) + "'");
     }
