@@ -9,7 +9,6 @@ namespace {
 
 constexpr Breaks wire{.wire = true};
 constexpr Breaks code{.source = true, .binary = true};
-constexpr Breaks source{.source = true};
 constexpr Breaks binary{.binary = true};
 
 constexpr std::string_view elementGrows =
