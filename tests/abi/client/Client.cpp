@@ -56,7 +56,8 @@ void tellClassesApart()
     // Made here, called through the base.
     std::unique_ptr<IResourceBase> const presets = std::make_unique<radio::Presets>();
     expect(dynamic_cast<radio::Presets*>(presets.get()) != nullptr, "presets");
-    expect(typeid(*presets) == typeid(radio::Presets), "the type record of presets");
+    IResourceBase const& base = *presets;
+    expect(typeid(base) == typeid(radio::Presets), "the type record of presets");
 }
 
 /// A client may have elements of its own.
