@@ -50,7 +50,8 @@ void TomlText::leaveOutUnreadable(Faults& faults)
     for (std::size_t begin = 0; begin < m_text.size(); ++number) {
         auto const end = std::min(m_text.find('\n', begin), m_text.size());
         checkLine(number, std::string_view(m_text).substr(begin, end - begin), faults);
-        begin = end + 1;
+        // The line may have been left out, and is shorter then.
+        begin = std::min(m_text.find('\n', begin), m_text.size()) + 1;
     }
 }
 
