@@ -36,9 +36,12 @@ private:
     }
 
     /// Of a file that could not be read whole nobody knows what is missing.
-    void miss(std::string text)
+    void miss(std::string_view what, std::string_view says)
     {
         if (m_definition.isWhole) {
+            std::string text(what);
+            text += " is missing; ";
+            text += says;
             fail(m_definition.resource.place, std::move(text));
         }
     }
@@ -61,12 +64,12 @@ void Reader::read(Node const& document)
     if (auto const* const element = find(document, "element")) {
         readElement(*element);
     } else {
-        miss("'element' is missing; it names the element class: element = \"PresetObject\"");
+        miss("'element'", "it names the element class: element = \"PresetObject\"");
     }
     if (auto const* const about = find(document, "about")) {
         readAbout(*about);
     } else {
-        miss(std::string{"'about' is missing; "} + saysOfAbout);
+        miss("'about'", saysOfAbout);
     }
     resource.resourceKey = lowered(resource.name);
     if (auto const* const key = find(document, "resource_key")) {
@@ -80,8 +83,7 @@ void Reader::read(Node const& document)
     if (auto const* const fields = find(document, "fields")) {
         readFields(*fields, m_definition, m_faults);
     } else {
-        miss("[fields] is missing; it stands empty if the element has no fields but id, name and "
-             "uri");
+        miss("[fields]", "it stands empty if the element has no fields but id, name and uri");
     }
     std::ranges::sort(resource.fields, {}, &Field::key);
     if (auto const* const notes = find(document, "notes")) {
