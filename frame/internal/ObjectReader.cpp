@@ -3,9 +3,9 @@
 #include "frame/internal/Notices.h"
 #include "frame/internal/Values.h"
 
-#include <cstdint>
-#include <cstring>
+#include <array>
 #include <string_view>
+#include <utility>
 
 namespace zel::kiv::common::internal {
 
@@ -16,35 +16,6 @@ using zel::dataformats::data::Value;
 using zel::dataformats::data::ValueType;
 
 namespace {
-
-// What a string holds without memory of its own, in the usual standard library.
-constexpr std::string_view blanks = "               ";
-
-/// Copies the first and the last bytes of a text, which may overlap, as one word each.
-template <typename Word>
-void copyEnds(char* to, char const* from, std::size_t length)
-{
-    Word first = 0;
-    Word last = 0;
-    std::memcpy(&first, from, sizeof first);
-    std::memcpy(&last, from + length - sizeof last, sizeof last);
-    std::memcpy(to, &first, sizeof first);
-    std::memcpy(to + length - sizeof last, &last, sizeof last);
-}
-
-/// Copies a text of no more than 16 bytes without a call.
-void copyShort(char* to, char const* from, std::size_t length)
-{
-    if (length >= sizeof(std::uint64_t)) {
-        copyEnds<std::uint64_t>(to, from, length);
-    } else if (length >= sizeof(std::uint32_t)) {
-        copyEnds<std::uint32_t>(to, from, length);
-    } else if (length >= sizeof(std::uint16_t)) {
-        copyEnds<std::uint16_t>(to, from, length);
-    } else if (length != 0) {
-        *to = *from;
-    }
-}
 
 Value const* lookUp(ObjectReader::Map const& map, std::string const& key)
 {
@@ -58,6 +29,26 @@ Value const* lookUp(ObjectReader::Map const& map, std::string const& key)
     }
     return value;
 }
+
+/// Looks up a key of that length. More time goes into making keys than into anything else here:
+/// where the length is a constant, one that a string holds in place is made by two or three moves.
+template <std::size_t length>
+[[gnu::flatten, gnu::nonnull]] Value const* findShort(ObjectReader::Map const& map, char const* key)
+{
+    return lookUp(map, std::string(key, key + length));
+}
+
+using FindShort = Value const* (*)(ObjectReader::Map const&, char const*);
+
+template <std::size_t... lengths>
+constexpr std::array<FindShort, sizeof...(lengths)>
+finders(std::index_sequence<lengths...> /*lengths*/)
+{
+    return {findShort<lengths>...};
+}
+
+// Up to the length that a string of the usual standard library holds without memory of its own.
+constexpr auto shortKeys = finders(std::make_index_sequence<16>());
 
 // Not in line, so that a key that is absent costs little.
 template <auto answer, typename Setter>
@@ -135,17 +126,16 @@ ObjectReader::ObjectReader(Map const& map, IObjectBase& target, std::size_t long
     notice::readsFields(map);
 }
 
-// More time goes into making keys than into anything else here. A short one is a string of a fixed
-// length that is filled and cut off: with all of that in line, no call is left but the look-up.
-[[gnu::flatten, gnu::noinline]] Value const* ObjectReader::find(Key key)
+// A short key is made by the function for its length, a longer one in the buffer of the reader.
+Value const* ObjectReader::find(Key key)
 {
     notice::asks({key.text, key.length});
-    if (key.length <= blanks.size()) {
-        std::string text(blanks.data(), blanks.size());
-        copyShort(text.data(), key.text, key.length);
-        text.erase(key.length);
-        return lookUp(*m_map, text);
-    }
+    return key.length < shortKeys.size() ? shortKeys[key.length](*m_map, key.text) : findLong(key);
+}
+
+// Not in line either, so that a short key costs nothing more.
+[[gnu::noinline]] Value const* ObjectReader::findLong(Key key)
+{
     m_key.clear();
     m_key.append(key.text, key.length);
     return lookUp(*m_map, m_key);

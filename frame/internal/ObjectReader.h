@@ -94,6 +94,7 @@ private:
 
     /// The value of that key, or null.
     zel::dataformats::data::Value const* find(Key key);
+    zel::dataformats::data::Value const* findLong(Key key);
 
     void read(Key key, StringSetter setter);
     void read(Key key, IntSetter setter);
