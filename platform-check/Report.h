@@ -95,7 +95,7 @@ private:
         std::printf(m_isJson ? "{\"verdict\":\"%s\",\"done\":%s,\"seen\":%s}\n" : "%-7s %-52s %s\n",
                     verdict, m_isJson ? quoted(done).c_str() : done.c_str(),
                     m_isJson ? quoted(seen).c_str() : seen.c_str());
-        std::fflush(stdout); // the next operation may end the program
+        static_cast<void>(std::fflush(stdout)); // the next operation may end the program
     }
 
     bool m_isJson;
