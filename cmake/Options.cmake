@@ -63,9 +63,9 @@ target_include_directories(zel_kiv_tool_options INTERFACE ${PROJECT_SOURCE_DIR})
 # the compiler leaves those out only where it writes the tables itself.
 set(flags_for_libraries
     -fno-semantic-interposition -fno-asynchronous-unwind-tables -fno-dwarf2-cfi-asm)
-# The two passes that are left out keep addresses in registers that are as soon formed anew; each of
+# The passes that are left out keep addresses in registers that are as soon formed anew; each of
 # those takes room on the stack at every level of nesting.
-set(flags_for_size -fno-gcse -fno-rerun-cse-after-loop)
+set(flags_for_size -fno-gcse -fno-rerun-cse-after-loop -fno-split-wide-types)
 # `scripts/lint` takes these out of what it gives to clang-tidy.
 list(JOIN flags_for_libraries "\n" library_lines)
 list(JOIN flags_for_size "\n" size_lines)
@@ -87,7 +87,7 @@ add_library(zel_kiv_quickly_built INTERFACE)
 target_compile_options(zel_kiv_quickly_built INTERFACE $<$<CONFIG:Release>:-O1>)
 
 # Code of shared libraries, of which comes out only what says so. Several units of the services have
-# visitors of the same name in unnamed namespaces, so no two units are made one.
+# structures of the same name in unnamed namespaces, so no two units are made one.
 function(keep_hidden)
     set_target_properties(${ARGN} PROPERTIES
         POSITION_INDEPENDENT_CODE ON

@@ -142,7 +142,8 @@ void ExternalResourceObjectDeserializer::visitArray(PtrVector<Value> const& /*en
 
 void ExternalResourceObjectDeserializer::visitObject(PtrMap<std::string, Value> const& map)
 {
-    internal::ObjectReader fields(map, *m_target, 4);
+    internal::ObjectReader fields(*m_target, 4);
+    fields.readFrom(map);
     fields.readString("id", &ExternalResourceObject::setId);
     fields.readString("name", &ExternalResourceObject::setName);
     fields.readString("uri", &ExternalResourceObject::setUri);

@@ -117,12 +117,16 @@ Handover<IObjectBase> const* chosen(std::string const& resource, Targets targets
 
 } // namespace
 
-ObjectReader::ObjectReader(Map const& map, IObjectBase& target, std::size_t longestKey)
-    : m_map(&map), m_target(&target)
+ObjectReader::ObjectReader(IObjectBase& target, std::size_t longestKey) : m_target(&target)
 {
     if (longestKey > m_key.capacity()) {
         m_key.reserve(longestKey);
     }
+}
+
+void ObjectReader::readFrom(Map const& map)
+{
+    m_map = &map;
     notice::readsFields(map);
 }
 

@@ -29,7 +29,10 @@ public:
 
     /// `longestKey` is the length of the longest key that will be asked for: long keys are looked
     /// up through one buffer that grows once.
-    ObjectReader(Map const& map, IObjectBase& target, std::size_t longestKey);
+    ObjectReader(IObjectBase& target, std::size_t longestKey);
+
+    /// Says what to read from, before anything is read.
+    void readFrom(Map const& map);
 
     template <typename Element>
     void readString(Key key, void (Element::*setter)(std::string const&))
@@ -109,7 +112,7 @@ private:
     template <typename Use>
     void eachEntry(Key key, Use use);
 
-    Map const* m_map;
+    Map const* m_map = nullptr;
     IObjectBase* m_target;
     std::string m_key;
 };

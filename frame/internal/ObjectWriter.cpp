@@ -31,6 +31,8 @@ ArrayWriter::ArrayWriter(char const* key, SerializationType type)
     notice::writesList(key);
 }
 
+ArrayWriter::~ArrayWriter() = default;
+
 void ArrayWriter::add(IObjectBase const* element)
 {
     notice::Writing const writing(element);
@@ -49,6 +51,8 @@ ObjectWriter::ObjectWriter(IObjectBase const& element, SerializationType type)
 {
     notice::writes(element, type);
 }
+
+ObjectWriter::~ObjectWriter() = default;
 
 void ObjectWriter::addString(char const* key, std::string const& text)
 {

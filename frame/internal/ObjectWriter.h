@@ -23,6 +23,14 @@ public:
     /// Starts the array of the list under that key, whose elements are as deep as `type` says.
     ArrayWriter(char const* key, SerializationType type);
 
+    // Defined with the frame, so that no class has the code of it.
+    ~ArrayWriter();
+
+    ArrayWriter(ArrayWriter const&) = delete;
+    ArrayWriter(ArrayWriter&&) = delete;
+    ArrayWriter& operator=(ArrayWriter const&) = delete;
+    ArrayWriter& operator=(ArrayWriter&&) = delete;
+
     /// `element` is not tested for null.
     void add(IObjectBase const* element);
 
@@ -41,6 +49,12 @@ public:
     /// Starts the object of an element. `type` is the depth that the element itself was asked for;
     /// what is nested in it follows from that.
     ObjectWriter(IObjectBase const& element, SerializationType type);
+    ~ObjectWriter();
+
+    ObjectWriter(ObjectWriter const&) = delete;
+    ObjectWriter(ObjectWriter&&) = delete;
+    ObjectWriter& operator=(ObjectWriter const&) = delete;
+    ObjectWriter& operator=(ObjectWriter&&) = delete;
 
     void addString(char const* key, std::string const& text);
     void addInt(char const* key, int number);

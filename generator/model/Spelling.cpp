@@ -58,8 +58,8 @@ bool isReservedService(std::string_view word)
 
 bool isReservedClass(std::string_view word)
 {
-    // The endings make visitors and the catalogue's makers; without a small letter it may be a
-    // macro, such as EOF.
+    // The endings make what reads a class and the catalogue's makers; without a small letter it may
+    // be a macro, such as EOF.
     if (word.ends_with("Deserializer") || word.ends_with("Element") ||
         std::ranges::none_of(word, isLower)) {
         return true;

@@ -70,17 +70,6 @@ Block brokenSignature(std::string const& result, Accessor const& accessor, std::
     });
 }
 
-/// A constructor with an empty body.
-Block constructor(std::string const& head, std::string const& initialiser)
-{
-    std::string const line = head + ' ' + initialiser;
-    std::string const broken = head + "\n    " + initialiser;
-    return Block::of([=](std::size_t column) {
-        return oneOr(line + " {}", (column + line.size() <= columns ? line : broken) + "\n{\n}")
-            .at(column);
-    });
-}
-
 } // namespace
 
 Block withResult(std::string const& result, std::string const& rest)
@@ -90,13 +79,13 @@ Block withResult(std::string const& result, std::string const& rest)
 
 Block constructorOf(std::string const& name, std::string const& base, std::string const& key)
 {
-    return constructor(name, ": " + base + "(\"" + key + "\")");
-}
-
-Block visitorConstructorOf(std::string const& className, std::string const& target)
-{
-    return constructor("explicit " + className + "Deserializer(" + target + "& target)",
-                       ": " + target + "Visitor(target)");
+    std::string const initialiser = ": " + base + "(\"" + key + "\")";
+    std::string const line = name + ' ' + initialiser;
+    std::string const broken = name + "\n    " + initialiser;
+    return Block::of([=](std::size_t column) {
+        return oneOr(line + " {}", (column + line.size() <= columns ? line : broken) + "\n{\n}")
+            .at(column);
+    });
 }
 
 Block classHeadOf(std::string const& name, std::string const& base)

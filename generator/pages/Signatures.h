@@ -19,9 +19,6 @@ Block definitionOf(Accessor const& accessor, std::string const& scope);
 /// A constructor without parameters and the key it gives to its base.
 Block constructorOf(std::string const& name, std::string const& base, std::string const& key);
 
-/// The constructor of the visitor of a class; it takes the object to fill.
-Block visitorConstructorOf(std::string const& className, std::string const& target);
-
 /// The first line of an exported class.
 Block classHeadOf(std::string const& name, std::string const& base);
 

@@ -26,8 +26,6 @@ namespace {
 namespace common = zel::kiv::common;
 namespace internal = zel::kiv::common::internal;
 
-using zel::common::types::PtrMap;
-using zel::common::types::PtrVector;
 using zel::dataformats::data::Value;
 
 using Resource = common::$service$::$Resource$;
@@ -36,22 +34,20 @@ using Element = Resource::$Element$;
 using $Element$ = Element;
 
 $targets$
-class $Element$Deserializer final : public internal::ElementVisitor {
-public:
-    $elementVisitor$
-
-    void visitObject(PtrMap<std::string, Value> const& map) override
+struct $Element$Deserializer {
+    static bool read(Element& target, Value const* value)
     {
-        internal::ObjectReader fields(map, target(), $longestKey$);
+        return internal::deserializeElement(target, value, readFields, $longestKey$);
+    }
+
+    static void readFields(internal::ObjectReader& fields)
+    {
         $reads$
     }
 };
 
-class $Resource$Deserializer final : public internal::ResourceVisitor {
-public:
-    $resourceVisitor$
-
-    void visitArray(PtrVector<Value> const& entries) override
+struct $Resource$Deserializer {
+    static bool read(Resource& target, Value const* value)
     {
         $readEntries$
     }
@@ -72,9 +68,7 @@ std::unique_ptr<Value> $Resource$::serialize() const
 
 bool $Resource$::deserialize(Value const* value)
 {
-    $Resource$Deserializer visitor(*this);
-    visitor.read(value);
-    return true;
+    return $Resource$Deserializer::read(*this, value);
 }
 
 std::size_t $Resource$::getNumberOfElements() const
@@ -116,9 +110,7 @@ $serialize$
 
 bool $Element$::deserialize(Value const* value)
 {
-    $Element$Deserializer visitor(*this);
-    visitor.read(value);
-    return true;
+    return $Element$Deserializer::read(*this, value);
 }
 $accessors$
 
@@ -164,8 +156,8 @@ Block readEntriesOf(Resource const& resource)
 {
     std::string const failure = "Error while deserializing array into '" + resource.name +
                                 "::" + resource.element + "'-object!\\n";
-    return wrapped("readEntries<&Resource::addObject>(", {"entries", '"' + failure + '"'}, ",",
-                   ");");
+    return wrapped("return internal::deserializeResource<&Resource::addObject>(",
+                   {"target", "value", '"' + failure + '"'}, ",", ");");
 }
 
 /// What the fields of one element make of its source unit.
@@ -210,8 +202,6 @@ std::string sourcePage(Resource const& resource, Interface const& interface)
                  {"reads", steps.reads},
                  {"targets", steps.targets},
                  {"readEntries", readEntriesOf(resource)},
-                 {"elementVisitor", visitorConstructorOf(resource.element, "Element")},
-                 {"resourceVisitor", visitorConstructorOf(resource.name, "Resource")},
                  {"constructResource", constructorOf(resource.name + "::" + resource.name + "()",
                                                      "IResourceBase", resource.resourceKey)},
                  {"construct", constructorOf(element + "::" + element + "()", "IObjectBase",

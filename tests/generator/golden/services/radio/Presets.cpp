@@ -13,8 +13,6 @@ namespace {
 namespace common = zel::kiv::common;
 namespace internal = zel::kiv::common::internal;
 
-using zel::common::types::PtrMap;
-using zel::common::types::PtrVector;
 using zel::dataformats::data::Value;
 
 using Resource = common::radio::Presets;
@@ -36,13 +34,14 @@ constexpr internal::Target referenceTargets[] = {
 constexpr internal::Handover<common::IObjectBase> referenceLastResort =
     internal::handover<Element, common::ExternalResourceObject, &Element::setReference>;
 
-class PresetObjectDeserializer final : public internal::ElementVisitor {
-public:
-    explicit PresetObjectDeserializer(Element& target) : ElementVisitor(target) {}
-
-    void visitObject(PtrMap<std::string, Value> const& map) override
+struct PresetObjectDeserializer {
+    static bool read(Element& target, Value const* value)
     {
-        internal::ObjectReader fields(map, target(), 11);
+        return internal::deserializeElement(target, value, readFields, 11);
+    }
+
+    static void readFields(internal::ObjectReader& fields)
+    {
         fields.readString("SPIN", &Element::setSPIN);
         fields.readInt("count", &Element::setCount);
         fields.readStringList("countries", &Element::addCountries);
@@ -61,14 +60,12 @@ public:
     }
 };
 
-class PresetsDeserializer final : public internal::ResourceVisitor {
-public:
-    explicit PresetsDeserializer(Resource& target) : ResourceVisitor(target) {}
-
-    void visitArray(PtrVector<Value> const& entries) override
+struct PresetsDeserializer {
+    static bool read(Resource& target, Value const* value)
     {
-        readEntries<&Resource::addObject>(
-            entries, "Error while deserializing array into 'Presets::PresetObject'-object!\n");
+        return internal::deserializeResource<&Resource::addObject>(
+            target, value,
+            "Error while deserializing array into 'Presets::PresetObject'-object!\n");
     }
 };
 
@@ -87,9 +84,7 @@ std::unique_ptr<Value> Presets::serialize() const
 
 bool Presets::deserialize(Value const* value)
 {
-    PresetsDeserializer visitor(*this);
-    visitor.read(value);
-    return true;
+    return PresetsDeserializer::read(*this, value);
 }
 
 std::size_t Presets::getNumberOfElements() const
@@ -183,9 +178,7 @@ std::unique_ptr<Value> PresetObject::serialize(SerializationType type) const
 
 bool PresetObject::deserialize(Value const* value)
 {
-    PresetObjectDeserializer visitor(*this);
-    visitor.read(value);
-    return true;
+    return PresetObjectDeserializer::read(*this, value);
 }
 
 std::string const& PresetObject::getSPIN() const

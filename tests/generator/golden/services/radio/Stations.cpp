@@ -13,8 +13,6 @@ namespace {
 namespace common = zel::kiv::common;
 namespace internal = zel::kiv::common::internal;
 
-using zel::common::types::PtrMap;
-using zel::common::types::PtrVector;
 using zel::dataformats::data::Value;
 
 using Resource = common::radio::Stations;
@@ -22,13 +20,14 @@ using Element = Resource::StationObject;
 // The operations are defined under the name of their class, by which they are searched for.
 using StationObject = Element;
 
-class StationObjectDeserializer final : public internal::ElementVisitor {
-public:
-    explicit StationObjectDeserializer(Element& target) : ElementVisitor(target) {}
-
-    void visitObject(PtrMap<std::string, Value> const& map) override
+struct StationObjectDeserializer {
+    static bool read(Element& target, Value const* value)
     {
-        internal::ObjectReader fields(map, target(), 7);
+        return internal::deserializeElement(target, value, readFields, 7);
+    }
+
+    static void readFields(internal::ObjectReader& fields)
+    {
         fields.readString("id", &Element::setId);
         fields.readString("name", &Element::setName);
         fields.readElementList<&Element::addPresets>("presets");
@@ -36,14 +35,12 @@ public:
     }
 };
 
-class StationsDeserializer final : public internal::ResourceVisitor {
-public:
-    explicit StationsDeserializer(Resource& target) : ResourceVisitor(target) {}
-
-    void visitArray(PtrVector<Value> const& entries) override
+struct StationsDeserializer {
+    static bool read(Resource& target, Value const* value)
     {
-        readEntries<&Resource::addObject>(
-            entries, "Error while deserializing array into 'Stations::StationObject'-object!\n");
+        return internal::deserializeResource<&Resource::addObject>(
+            target, value,
+            "Error while deserializing array into 'Stations::StationObject'-object!\n");
     }
 };
 
@@ -62,9 +59,7 @@ std::unique_ptr<Value> Stations::serialize() const
 
 bool Stations::deserialize(Value const* value)
 {
-    StationsDeserializer visitor(*this);
-    visitor.read(value);
-    return true;
+    return StationsDeserializer::read(*this, value);
 }
 
 std::size_t Stations::getNumberOfElements() const
@@ -120,9 +115,7 @@ std::unique_ptr<Value> StationObject::serialize(SerializationType type) const
 
 bool StationObject::deserialize(Value const* value)
 {
-    StationObjectDeserializer visitor(*this);
-    visitor.read(value);
-    return true;
+    return StationObjectDeserializer::read(*this, value);
 }
 
 std::string const& StationObject::getId() const

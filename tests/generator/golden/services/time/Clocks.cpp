@@ -13,8 +13,6 @@ namespace {
 namespace common = zel::kiv::common;
 namespace internal = zel::kiv::common::internal;
 
-using zel::common::types::PtrMap;
-using zel::common::types::PtrVector;
 using zel::dataformats::data::Value;
 
 using Resource = common::time::Clocks;
@@ -22,27 +20,25 @@ using Element = Resource::ClockObject;
 // The operations are defined under the name of their class, by which they are searched for.
 using ClockObject = Element;
 
-class ClockObjectDeserializer final : public internal::ElementVisitor {
-public:
-    explicit ClockObjectDeserializer(Element& target) : ElementVisitor(target) {}
-
-    void visitObject(PtrMap<std::string, Value> const& map) override
+struct ClockObjectDeserializer {
+    static bool read(Element& target, Value const* value)
     {
-        internal::ObjectReader fields(map, target(), 4);
+        return internal::deserializeElement(target, value, readFields, 4);
+    }
+
+    static void readFields(internal::ObjectReader& fields)
+    {
         fields.readString("id", &Element::setId);
         fields.readString("name", &Element::setName);
         fields.readString("uri", &Element::setUri);
     }
 };
 
-class ClocksDeserializer final : public internal::ResourceVisitor {
-public:
-    explicit ClocksDeserializer(Resource& target) : ResourceVisitor(target) {}
-
-    void visitArray(PtrVector<Value> const& entries) override
+struct ClocksDeserializer {
+    static bool read(Resource& target, Value const* value)
     {
-        readEntries<&Resource::addObject>(
-            entries, "Error while deserializing array into 'Clocks::ClockObject'-object!\n");
+        return internal::deserializeResource<&Resource::addObject>(
+            target, value, "Error while deserializing array into 'Clocks::ClockObject'-object!\n");
     }
 };
 
@@ -61,9 +57,7 @@ std::unique_ptr<Value> Clocks::serialize() const
 
 bool Clocks::deserialize(Value const* value)
 {
-    ClocksDeserializer visitor(*this);
-    visitor.read(value);
-    return true;
+    return ClocksDeserializer::read(*this, value);
 }
 
 std::size_t Clocks::getNumberOfElements() const
@@ -113,9 +107,7 @@ std::unique_ptr<Value> ClockObject::serialize(SerializationType type) const
 
 bool ClockObject::deserialize(Value const* value)
 {
-    ClockObjectDeserializer visitor(*this);
-    visitor.read(value);
-    return true;
+    return ClockObjectDeserializer::read(*this, value);
 }
 
 std::string const& ClockObject::getId() const
