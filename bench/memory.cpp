@@ -1,6 +1,8 @@
-// Prints how much memory this process alone has written, in kB: when it begins, and after the value
-// tree of a small resource was read and written once. What the library of the process costs is the
-// difference to the program that has none and copies the tree instead.
+// Prints how much memory this process has written, in kB: when it begins, and after the value tree of
+// a small resource was read and written once. What the library of the process costs is the difference
+// to the program that has none and copies the tree instead. What counts is what the kernel calls
+// anonymous: the pages of a file that the process has written to, but not those that are dirty because
+// the file itself is new.
 //   memory         prints both
 //   memory wait    and then waits for the end of the standard input, for whoever looks at many at
 //   once
@@ -77,9 +79,9 @@ void roundTrip()
 
 int main(int count, char** /*arguments*/)
 try {
-    int const before = kilobytes("Private_Dirty:");
+    int const before = kilobytes("Anonymous:");
     roundTrip();
-    int const after = kilobytes("Private_Dirty:");
+    int const after = kilobytes("Anonymous:");
     std::cout << before << ' ' << after << std::endl;
     if (count > 1) {
         std::string line;
