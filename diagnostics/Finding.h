@@ -95,12 +95,13 @@ struct Finding {
     /// stands for `ExternalResourceObject`.
     zel::kiv::catalogue::Resource const* top = nullptr;
     zel::kiv::catalogue::Resource const* holder = nullptr;
-    std::string_view key; ///< the last key of the path, or empty
-    std::string path;     ///< `[3].station.uri`
-    std::string pattern;  ///< the path with every index as 0
-    std::string stands;   ///< what stands there: `text where a number is wanted`
-    std::string becomes;  ///< what the library makes of it: `it reads as 0`
-    std::string meant;    ///< what was probably meant, or empty: `did you mean 'position'?`
+    std::string_view firstKey; ///< of the path, or empty
+    std::string_view key;      ///< the last key of the path, or empty
+    std::string path;          ///< `[3].station.uri`
+    std::string pattern;       ///< the path with every index as 0
+    std::string stands;        ///< what stands there: `text where a number is wanted`
+    std::string becomes;       ///< what the library makes of it: `it reads as 0`
+    std::string meant;         ///< what was probably meant, or empty: `did you mean 'position'?`
     Place place;
 };
 

@@ -3,6 +3,7 @@
 #include "diagnostics/Classes.h"
 #include "text/Path.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace kiv::diagnostics {
@@ -58,11 +59,25 @@ void ReadingTrail::enter(Receiver& receiver, common::IResourceBase const& resour
     level.value = value;
 }
 
-void ReadingTrail::enterEntry(Receiver& receiver, Row const& resource, std::size_t index)
+void ReadingTrail::enterEntry(Receiver& receiver, Row const& resource, std::size_t index,
+                              std::span<ListPart const> parts)
 {
     Level& level = push(receiver);
     level.row = &resource;
     level.index = index;
+    level.parts = parts;
+}
+
+/// What there is to know of the list that the element of an entry has under its key.
+ListPart const* ReadingTrail::partOfList() const
+{
+    constexpr std::size_t depthOfElement = 2; // below the entry
+    if (m_depth != depthOfElement) {
+        return nullptr;
+    }
+    auto const parts = m_levels.front().parts;
+    auto const part = std::ranges::find(parts, m_levels[1].key, &ListPart::key);
+    return part == parts.end() ? nullptr : &*part;
 }
 
 void ReadingTrail::finish()
@@ -122,7 +137,8 @@ void ReadingTrail::startList(data::Value const* list)
     level.isReadAsList = true;
     level.list = list != nullptr ? list : level.value;
     level.index.reset();
-    level.taken = 0;
+    level.part = partOfList();
+    level.taken = level.part != nullptr && level.part->hasTaken ? 1 : 0;
 }
 
 void ReadingTrail::startEntry(data::Value const* entry)
@@ -140,10 +156,12 @@ void ReadingTrail::startEntry(data::Value const* entry)
 void ReadingTrail::endList()
 {
     Level& level = top();
-    bool const isEmpty = !level.index;
+    auto const* const part = std::exchange(level.part, nullptr);
+    bool const isEmpty = !level.index && (part == nullptr || part->first == 0);
+    bool const isWhole = part == nullptr || part->isLast;
     level.index.reset();
     level.list = nullptr;
-    if (level.resource == nullptr && level.taken == 0) {
+    if (level.resource == nullptr && level.taken == 0 && isWhole) {
         tell(here(Fate::Lost, Id::EmptyList),
              isEmpty ? "an empty list" : "a list of nothing but nulls",
              "the field is left as it was, and the list does not come out again");
@@ -162,14 +180,16 @@ Finding ReadingTrail::here(Fate fate, Id id) const
 {
     Path path;
     Path pattern;
+    std::string_view firstKey;
     for (std::size_t i = 0; i < m_depth; ++i) {
         Level const& level = m_levels[i];
+        firstKey = firstKey.empty() ? level.key : firstKey;
         if (!level.key.empty()) {
             path.enter(level.key);
             pattern.enter(level.key);
         }
         if (level.index) {
-            path.enter(*level.index);
+            path.enter(*level.index + (level.part != nullptr ? level.part->first : 0));
             pattern.enter(std::size_t{0});
         }
     }
@@ -179,6 +199,7 @@ Finding ReadingTrail::here(Fate fate, Id id) const
     finding.id = id;
     finding.top = rowOf(m_levels.front());
     finding.holder = rowOf(last);
+    finding.firstKey = firstKey;
     finding.key = last.key;
     finding.path = path.text();
     finding.pattern = pattern.text();

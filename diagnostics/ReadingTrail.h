@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,9 +26,9 @@ public:
 
     void enter(Receiver& receiver, common::IObjectBase const& element, data::Value const* value);
     void enter(Receiver& receiver, common::IResourceBase const& resource, data::Value const* value);
-    /// An entry of an array that is read without the array.
+    /// An entry of an array that is read without the array, some of its lists in parts.
     void enterEntry(Receiver& receiver, zel::kiv::catalogue::Resource const& resource,
-                    std::size_t index);
+                    std::size_t index, std::span<ListPart const> parts);
     void leave() { --m_depth; }
     /// What was entered last has been read to the end.
     void finish();
@@ -63,6 +64,8 @@ private:
         data::Value const* list = nullptr;
         std::optional<std::size_t> index;
         std::size_t taken = 0; ///< entries of the list that are not null
+        std::span<ListPart const> parts;
+        ListPart const* part = nullptr; ///< if the list is read in parts
         bool isReadAsList = false;
         bool isFromUri = false; ///< what is read was made of a uri
         bool isRefused = false; ///< the uri of the value under the key was told to be no text
@@ -71,6 +74,7 @@ private:
     Level& top() { return m_levels[m_depth - 1]; }
     Level& push(Receiver& receiver);
     [[nodiscard]] static Row const* rowOf(Level const& level);
+    [[nodiscard]] ListPart const* partOfList() const;
     /// A finding at the value that is read just now.
     [[nodiscard]] Finding here(Fate fate, Id id) const;
     void tell(Finding finding, std::string stands, std::string becomes, std::string meant = "");

@@ -15,9 +15,10 @@ thread_local Receiver* here = nullptr;
 /// An entry is on the trail for as long as this lives.
 class Entry {
 public:
-    Entry(Receiver& receiver, zel::kiv::catalogue::Resource const& resource, std::size_t index)
+    Entry(Receiver& receiver, zel::kiv::catalogue::Resource const& resource, std::size_t index,
+          std::span<ListPart const> parts)
     {
-        ReadingTrail::ofThread().enterEntry(receiver, resource, index);
+        ReadingTrail::ofThread().enterEntry(receiver, resource, index, parts);
     }
     Entry(Entry const&) = delete;
     Entry(Entry&&) = delete;
@@ -50,10 +51,11 @@ Listening::~Listening()
 
 std::unique_ptr<zel::kiv::common::IObjectBase>
 readEntry(zel::kiv::catalogue::Resource const& resource, std::size_t index,
-          zel::dataformats::data::Value const* entry, Receiver& receiver)
+          zel::dataformats::data::Value const* entry, Receiver& receiver,
+          std::span<ListPart const> parts)
 {
     Listening const listening(receiver);
-    Entry const place(receiver, resource, index);
+    Entry const place(receiver, resource, index, parts);
     auto element = resource.makeElement();
     element->deserialize(entry);
     return element;

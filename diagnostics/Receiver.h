@@ -4,6 +4,9 @@
 #include "frame/SerializationType.h"
 
 #include <cstddef>
+#include <memory>
+#include <span>
+#include <string>
 
 namespace kiv::diagnostics {
 
@@ -57,11 +60,20 @@ private:
 /// Whom this thread tells, or null.
 Receiver* currentReceiver();
 
+/// Of a list that is read in parts: which of its entries an element has that is read now.
+struct ListPart {
+    std::string key;
+    std::size_t first;     ///< the index in the whole list of the first entry that is here
+    bool hasTaken = false; ///< whether an entry of the parts before was not null
+    bool isLast = true;
+};
+
 /// Reads one entry of an array as the resource would, with findings told to `receiver`, and hands
 /// back the element. `index` is where the entry stands. May throw what the value library and the
 /// receiver throw.
 std::unique_ptr<zel::kiv::common::IObjectBase>
 readEntry(zel::kiv::catalogue::Resource const& resource, std::size_t index,
-          zel::dataformats::data::Value const* entry, Receiver& receiver);
+          zel::dataformats::data::Value const* entry, Receiver& receiver,
+          std::span<ListPart const> parts = {});
 
 } // namespace kiv::diagnostics

@@ -120,8 +120,7 @@ void refuseOtherEncodings(std::string const& file, PositionedStream const& strea
 }
 
 Document read(std::string const& file, ByteSource source, EntryHandler const* handler,
-              MisfitHandler const& onMisfit, RepeatedKeyHandler const& onRepeatedKey,
-              Position start)
+              Listeners const& listeners, Position start)
 {
     constexpr unsigned flags = rapidjson::kParseIterativeFlag |
                                rapidjson::kParseValidateEncodingFlag |
@@ -129,7 +128,7 @@ Document read(std::string const& file, ByteSource source, EntryHandler const* ha
     PositionedStream stream(std::move(source), PositionedStream::longestToken, start);
     refuseOtherEncodings(file, stream);
     Document document;
-    ValueBuilder builder(file, stream, document, handler, onMisfit, onRepeatedKey);
+    ValueBuilder builder(file, stream, document, handler, listeners);
     rapidjson::Reader reader;
     rapidjson::ParseResult const result = reader.Parse<flags>(stream, builder);
     bool const stoppedAtZero = !result.IsError() && !stream.atEnd();
@@ -143,15 +142,15 @@ Document read(std::string const& file, ByteSource source, EntryHandler const* ha
 } // namespace
 
 Document readEntries(std::string const& file, ByteSource source, EntryHandler const& handler,
-                     MisfitHandler const& onMisfit, RepeatedKeyHandler const& onRepeatedKey)
+                     Listeners const& listeners)
 {
-    return read(file, std::move(source), &handler, onMisfit, onRepeatedKey, {});
+    return read(file, std::move(source), &handler, listeners, {});
 }
 
 Document readDocument(std::string const& file, ByteSource source, Position start,
-                      MisfitHandler const& onMisfit, RepeatedKeyHandler const& onRepeatedKey)
+                      Listeners const& listeners)
 {
-    return read(file, std::move(source), nullptr, onMisfit, onRepeatedKey, start);
+    return read(file, std::move(source), nullptr, listeners, start);
 }
 
 } // namespace kiv::json

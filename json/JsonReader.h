@@ -8,8 +8,10 @@
 
 #include <cstddef>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 
 /// JSON texts as values: null becomes a null entry, an integer an `Integer`, any other number a
 /// `Float`, and of a repeated key the last value stays.
@@ -23,11 +25,15 @@ namespace kiv::json {
 /// How deep arrays and objects may be nested.
 inline constexpr std::size_t maxDepth = zel::kiv::testing::detail::maxDepth;
 
+/// How many entries of long arrays were given away as parts before the rest came, by their keys.
+using GivenParts = std::map<std::string, std::size_t>;
+
 /// An entry of the array at the top of a document.
 struct Entry {
     std::unique_ptr<data::Value> value; ///< null for null
     Position position;
     std::size_t index = 0;
+    GivenParts given;
 };
 
 /// Takes one entry after the other. The places are those of the values below the entry; they are
@@ -39,6 +45,7 @@ struct Document {
     std::unique_ptr<data::Value> value; ///< null for null
     Position position;
     Places places;
+    GivenParts given;
 };
 
 /// Why no value holds a number as it stands.
@@ -57,17 +64,47 @@ using MisfitHandler = std::function<void(Misfit misfit, Position position, std::
 using RepeatedKeyHandler =
     std::function<void(Position before, std::string const& path, Position again)>;
 
+/// The next entries of an array under a key of an entry, or of a whole document, that has not ended
+/// yet. Of a key that is repeated each array comes; only those parts count that the entry tells of.
+struct Part {
+    std::string const& key;
+    std::size_t index; ///< of the entry, 0 for a whole document
+    std::size_t first; ///< the index of the first of these entries in the array
+    std::unique_ptr<data::Value> array;
+    Places const& places; ///< of these entries and what is below them
+};
+
+/// Takes a part of a long array; what is left of it when it ends is part of its entry. Or leaves
+/// the part where it is: then the array is not asked for again.
+using PartHandler = std::function<bool(Part& part)>;
+
+/// Whether the place of a value is wanted, in so many arrays and objects, under a key if it has
+/// one.
+using PlaceFilter =
+    std::function<bool(std::size_t depth, std::string_view key, data::Value const* value)>;
+
+/// Who is told of what while a document is read.
+struct Listeners {
+    MisfitHandler onMisfit;           ///< without it a number that is too wide is refused
+    RepeatedKeyHandler onRepeatedKey; ///< needs all places
+    PartHandler onPart;               ///< without it arrays come whole
+    PlaceFilter wantsPlace;           ///< without it all are
+};
+
+/// How much text of an array makes a part, and how much is too much for one: an entry so long is
+/// worth more than the array around it, which comes whole from there on.
+inline constexpr std::size_t partSize = 64UL * 1024;
+inline constexpr std::size_t longestPart = 128 * partSize;
+
 /// Reads a document and hands over the entries of the array at its top, each as soon as it has
 /// ended; so no more than one is in memory at any time. What it returns is what is left then: the
 /// array without its entries, or the whole of a document that is no array. `file` is the name that
-/// messages use. Without `onMisfit` a number that is too wide is refused.
+/// messages use.
 Document readEntries(std::string const& file, ByteSource source, EntryHandler const& handler,
-                     MisfitHandler const& onMisfit = nullptr,
-                     RepeatedKeyHandler const& onRepeatedKey = nullptr);
+                     Listeners const& listeners = {});
 
 /// Reads all of a document. `start` is the place of its first byte in the file.
 Document readDocument(std::string const& file, ByteSource source, Position start = {},
-                      MisfitHandler const& onMisfit = nullptr,
-                      RepeatedKeyHandler const& onRepeatedKey = nullptr);
+                      Listeners const& listeners = {});
 
 } // namespace kiv::json

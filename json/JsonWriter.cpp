@@ -1,11 +1,14 @@
 #include "json/JsonWriter.h"
 
+#include "json/Maps.h"
 #include "testing/detail/JsonVisitor.h"
 #include "text/Failure.h"
 
 #include <rapidjson/prettywriter.h>
+#include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 #include <string_view>
@@ -90,6 +93,11 @@ private:
     std::string m_held;
 };
 
+template <typename To>
+using CompactTarget = rapidjson::Writer<To>;
+template <typename To>
+using IndentedTarget = rapidjson::PrettyWriter<To>;
+
 /// Refuses what is no JSON.
 template <typename Target>
 class StrictVisitor : public zel::kiv::testing::detail::JsonVisitor<Target> {
@@ -123,11 +131,34 @@ public:
         m_output.put('\n');
     }
 
+    void document(data::Object const& object, WrittenLists const& lists) override
+    {
+        entry(object, lists);
+        m_output.put('\n');
+    }
+
     void startArray() override { m_target.StartArray(); }
 
     void entry(data::Value const* value) override
     {
         StrictVisitor<Target>(m_target).write(value);
+        m_stream.release();
+    }
+
+    void entry(data::Object const& object, WrittenLists const& lists) override
+    {
+        StrictVisitor<Target> visitor(m_target);
+        m_target.StartObject();
+        eachOf(object.get(), [&](std::string_view key, data::Value const* value) {
+            m_target.Key(key.data(), static_cast<rapidjson::SizeType>(key.size()));
+            auto const list = lists.find(std::string(key));
+            if (list == lists.end()) {
+                visitor.write(value);
+            } else {
+                writeList(visitor, list->second, static_cast<data::Array const&>(*value));
+            }
+        });
+        m_target.EndObject();
         m_stream.release();
     }
 
@@ -138,19 +169,56 @@ public:
     }
 
 private:
+    void writeList(StrictVisitor<Target>& visitor, std::vector<std::string> const& written,
+                   data::Array const& rest)
+    {
+        m_target.StartArray();
+        for (std::string const& entries : written) {
+            m_target.RawValue(entries.data(), entries.size(), rapidjson::kObjectType);
+        }
+        for (data::Value const* const entry : entriesOf(rest)) {
+            visitor.write(entry);
+        }
+        m_target.EndArray();
+    }
+
     Output& m_output;
     Stream m_stream;
     Target m_target;
 };
 
+template <template <typename> typename Target>
+std::string entriesTextBy(data::Array const& array, std::size_t depth)
+{
+    rapidjson::StringBuffer text;
+    Target<rapidjson::StringBuffer> target(text);
+    for (std::size_t i = 0; i < depth; ++i) {
+        target.StartArray();
+    }
+    text.Clear();
+    StrictVisitor<decltype(target)> visitor(target);
+    for (data::Value const* const entry : entriesOf(array)) {
+        visitor.write(entry);
+    }
+    std::string_view entries(text.GetString(), text.GetSize());
+    entries.remove_prefix(std::min(entries.find_first_not_of(" \n"), entries.size()));
+    return std::string(entries);
+}
+
 } // namespace
+
+std::string entriesText(data::Array const& array, Layout layout, std::size_t depth)
+{
+    return layout == Layout::Compact ? entriesTextBy<CompactTarget>(array, depth)
+                                     : entriesTextBy<IndentedTarget>(array, depth);
+}
 
 std::unique_ptr<Writer> makeWriter(Output& output, Layout layout)
 {
     if (layout == Layout::Compact) {
-        return std::make_unique<WriterOn<rapidjson::Writer<Stream>>>(output);
+        return std::make_unique<WriterOn<CompactTarget<Stream>>>(output);
     }
-    return std::make_unique<WriterOn<rapidjson::PrettyWriter<Stream>>>(output);
+    return std::make_unique<WriterOn<IndentedTarget<Stream>>>(output);
 }
 
 } // namespace kiv::json

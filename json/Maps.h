@@ -46,6 +46,12 @@ inline data::Value const* valueAt(data::Object const& object, std::string const&
     return found == map.end() ? nullptr : static_cast<data::Value const*>(found->second);
 }
 
+/// The entries of an array. Its getter is not const, though it changes nothing.
+inline types::PtrVector<data::Value> const& entriesOf(data::Array const& array)
+{
+    return const_cast<data::Array&>(array).get();
+}
+
 /// The text of a value that is text.
 inline std::string const& textIn(data::Value const& value)
 {

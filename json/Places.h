@@ -38,6 +38,13 @@ public:
     {
         m_entries[array].push_back(position);
     }
+    /// Adds the places below other arrays and objects, which are lost to `others`.
+    void add(Places& others)
+    {
+        m_keys.merge(others.m_keys);
+        m_entries.merge(others.m_entries);
+        others.clear();
+    }
     void clear()
     {
         m_keys.clear();

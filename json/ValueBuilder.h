@@ -16,10 +16,9 @@ class ValueBuilder : public zel::kiv::testing::detail::ValueBuilder {
     using Base = zel::kiv::testing::detail::ValueBuilder;
 
 public:
-    /// All must outlive the builder; `handler` may be null and the other two empty.
+    /// All must outlive the builder; `handler` may be null.
     ValueBuilder(std::string const& file, PositionedStream const& stream, Document& document,
-                 EntryHandler const* handler, MisfitHandler const& onMisfit,
-                 RepeatedKeyHandler const& onRepeatedKey);
+                 EntryHandler const* handler, Listeners const& listeners);
 
 private:
     /// Where an array or object begins that has not ended yet, and where its last key stands.
@@ -36,17 +35,25 @@ private:
     void named() override;
     void closed() override;
     void take(Owner value, std::size_t index) override;
-    void tellRepeated(Level const& parent) const;
+    void notePlace(data::Value const* value, Position position);
+    void tellRepeated(Level const& parent);
+    void givePart();
+    Places& places();
     [[nodiscard]] bool givesEntries() const;
+    [[nodiscard]] bool isInList() const;
 
     std::string const& m_file;
     PositionedStream const& m_stream;
     Document& m_document;
     EntryHandler const* m_handler;
-    MisfitHandler const& m_onMisfit;
-    RepeatedKeyHandler const& m_onRepeatedKey;
+    Listeners const& m_listeners;
     std::vector<Mark> m_marks;
     std::optional<Position> m_ended; ///< where the array or object begins that has just ended
+    std::size_t m_partStart = 0;     ///< in the text
+    bool m_isLeft = false;           ///< nobody takes parts of the array
+    Places m_listPlaces;             ///< in the array whose parts are given
+    std::size_t m_entryLevels;       ///< down to an entry, with that
+    GivenParts m_given;              ///< of the entry that is read
 };
 
 } // namespace kiv::json

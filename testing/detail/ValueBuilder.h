@@ -132,6 +132,12 @@ protected:
     Owner& whole() { return m_whole; }
     [[nodiscard]] std::vector<Level> const& levels() const { return m_levels; }
 
+    /// Puts another array into the place of the one that is open last, and gives that.
+    Owner replaceHolder(Owner array)
+    {
+        return std::exchange(m_levels.back().holder, std::move(array));
+    }
+
     /// The path of the value that comes next.
     [[nodiscard]] std::string path() const
     {

@@ -1,5 +1,6 @@
 #include "json/JsonReader.h"
 #include "json/JsonWriter.h"
+#include "json/Maps.h"
 #include "json/ValueBuilder.h"
 
 #include "Printed.h"
@@ -154,10 +155,9 @@ TEST(ValueBuilder, RefusesBothHalvesOfASurrogatePair)
 {
     PositionedStream const stream(textSource(""));
     std::string const file = "f";
-    MisfitHandler const none;
-    RepeatedKeyHandler const nothing;
+    Listeners const none;
     Document document;
-    ValueBuilder builder(file, stream, document, nullptr, none, nothing);
+    ValueBuilder builder(file, stream, document, nullptr, none);
     for (char const* const half :
          {"\xED\xA0\x80", "\xED\xAF\xBF", "\xED\xB0\x80", "\xED\xBF\xBF"}) {
         EXPECT_THROW(builder.String(half, 3, true), Failure);
@@ -215,6 +215,45 @@ TEST(JsonReader, entriesComeBeforeTheFileIsRead)
     EXPECT_THROW(readEntries("f", source, count), Failure) << "the array has no end";
     EXPECT_GT(entries, 80000U);
     EXPECT_LT(mostAhead, 200000U);
+}
+
+TEST(JsonReader, longArraysOfAnEntryComeInParts)
+{
+    constexpr std::size_t count = 30000;
+    std::string list = "[";
+    while (list.size() < count * 8) {
+        list += R"("entry",)";
+    }
+    list.back() = ']';
+    std::string const text = R"([{"short":[1],"taken":)" + list + R"(,"left":)" + list + "}]";
+    std::size_t taken = 0;
+    std::size_t parts = 0;
+    Listeners listeners;
+    listeners.onPart = [&](Part& part) {
+        auto const& entries = static_cast<data::Array&>(*part.array).get();
+        if (part.key != "taken") {
+            return false;
+        }
+        ++parts;
+        EXPECT_EQ(part.first, taken);
+        EXPECT_LT(entries.size() * 8, 2 * partSize);
+        EXPECT_EQ(part.places.entry(*part.array, entries.size() - 1).column,
+                  text.find(list) + 2 + 8 * (taken + entries.size() - 1));
+        taken += entries.size();
+        return true;
+    };
+    auto const onEntry = [&](Entry const& entry, Places const& places) {
+        EXPECT_EQ(entry.given, (GivenParts{{"taken", taken}}));
+        auto const& object = static_cast<data::Object const&>(*entry.value);
+        auto const sizeOf = [&](char const* key) {
+            return entriesOf(static_cast<data::Array const&>(*valueAt(object, key))).size();
+        };
+        EXPECT_EQ(sizeOf("taken") + taken, count);
+        EXPECT_EQ(sizeOf("left"), count);
+        EXPECT_EQ(places.entry(*valueAt(object, "left"), 0).column, text.rfind(list) + 2);
+    };
+    readEntries("f", textSource(text), onEntry, listeners);
+    EXPECT_EQ(parts, count * 8 / partSize);
 }
 
 TEST(JsonWriter, refusesWhatJsonCannotHold)

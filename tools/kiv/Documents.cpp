@@ -15,6 +15,7 @@ namespace {
 using data::ValueType;
 
 constexpr std::string_view anyResource = "auto";
+constexpr char const* recordedValue = "value";
 
 bool isOf(ValueType::Code type, data::Value const* value)
 {
@@ -44,7 +45,7 @@ std::string_view textAt(data::Value const* value, std::string const& key)
 class LentEntry {
 public:
     LentEntry(data::Value* value, json::Position position, std::size_t index)
-        : m_entry{std::unique_ptr<data::Value>(value), position, index}
+        : m_entry{std::unique_ptr<data::Value>(value), position, index, {}}
     {
     }
     LentEntry(LentEntry const&) = delete;
@@ -62,19 +63,34 @@ class DocumentReader {
 public:
     DocumentReader(InputFile input, DocumentOptions const& options,
                    DocumentHandlers const& handlers)
-        : m_input(std::move(input)), m_options(options), m_handlers(handlers),
+        : m_input(std::move(input)), m_options(options),
+          m_handlers(handlers), m_listeners{handlers.onMisfit, handlers.onRepeatedKey, nullptr,
+                                            nullptr},
           m_resource(options.resource == anyResource ? nullptr : &resourceNamed(options.resource))
     {
+        if (m_handlers.onPart && m_resource != nullptr) {
+            m_listeners.onPart = [this](json::Part& part) { return takePart(part); };
+        }
+        if (!m_handlers.wantsPlaces) {
+            // On a line, elements may lie in two levels of what is around them.
+            m_listeners.wantsPlace = [around = m_options.lines ? 2U : 0U](auto depth, auto key,
+                                                                          auto const* value) {
+                return depth <= around || (key == "uri" && !isOf(ValueType::String, value));
+            };
+        }
     }
+    DocumentReader(DocumentReader const&) = delete;
+    DocumentReader& operator=(DocumentReader const&) = delete;
+    ~DocumentReader() = default;
 
     void read()
     {
         if (m_options.lines) {
             readLines();
         } else if (m_options.element) {
-            auto document = json::readDocument(m_input.name, std::move(m_input.source), {},
-                                               m_handlers.onMisfit, m_handlers.onRepeatedKey);
-            readElement(document.value.get(), document.position, document.places, m_resource);
+            auto document =
+                json::readDocument(m_input.name, std::move(m_input.source), {}, m_listeners);
+            readElement(document);
         } else {
             readArray();
         }
@@ -86,9 +102,9 @@ private:
         json::Document const rest = json::readEntries(
             m_input.name, std::move(m_input.source),
             [this](json::Entry entry, json::Places& places) {
-                give(entry, places, m_resource, true);
+                give(entry, places, m_resource, &entry.value);
             },
-            m_handlers.onMisfit, m_handlers.onRepeatedKey);
+            m_listeners);
         if (!isOf(ValueType::Array, rest.value.get())) {
             bool const isObject = isOf(ValueType::Object, rest.value.get());
             refuse(rest.position, rest.value.get(), "an array",
@@ -102,9 +118,8 @@ private:
         LineReader lines(std::move(m_input.source));
         while (lines.next()) {
             try {
-                auto document =
-                    json::readDocument(m_input.name, lines.source(), {lines.number(), 1},
-                                       m_handlers.onMisfit, m_handlers.onRepeatedKey);
+                auto document = json::readDocument(m_input.name, lines.source(),
+                                                   {lines.number(), 1}, m_listeners);
                 readLine(document);
             } catch (Failure const& fault) {
                 if (!m_handlers.onBadLine) {
@@ -122,23 +137,25 @@ private:
         std::string_view const name = textAt(value, "resource");
         std::string_view const of = textAt(value, "of");
         if (name.empty() || (of != "resource" && of != "element")) {
-            isOf(ValueType::Array, value)
-                ? readEntries(*value, document.places, m_resource)
-                : readElement(value, position, document.places, m_resource);
+            isOf(ValueType::Array, value) ? readEntries(*value, document, m_resource)
+                                          : readElement(document);
             return;
         }
         auto const* const recorded = &recordedResource(name, position);
         if (m_resource != nullptr && m_resource != recorded) {
             return; // the line is of another resource than the one that was asked for
         }
-        auto* const inner = const_cast<data::Value*>(valueAt(value, "value"));
+        auto* const inner = const_cast<data::Value*>(valueAt(value, recordedValue));
         auto const* const place =
-            document.places.find(static_cast<data::Object const&>(*value), "value");
+            document.places.find(static_cast<data::Object const&>(*value), recordedValue);
         position = place == nullptr ? position : place->position;
         if (of == "element") {
-            readElement(inner, position, document.places, recorded);
+            if (isElement(inner, position)) {
+                LentEntry entry(inner, position, m_elements++);
+                give(entry.get(), document.places, recorded, &document.value);
+            }
         } else if (isOf(ValueType::Array, inner)) {
-            readEntries(*inner, document.places, recorded);
+            readEntries(*inner, document, recorded);
         } else {
             refuse(position, inner, "an array", "a resource is read from an array alone");
         }
@@ -154,30 +171,56 @@ private:
         }
     }
 
-    void readEntries(data::Value& array, json::Places& places, catalogue::Resource const* resource)
+    void readEntries(data::Value& array, json::Document& document,
+                     catalogue::Resource const* resource)
     {
         auto& entries = static_cast<data::Array&>(array).get();
-        for (std::size_t i = 0; i < entries.size(); ++i) {
-            LentEntry entry(entries[i], places.entry(array, i), i);
-            give(entry.get(), places, resource, false);
+        std::size_t const count = entries.size(); // the document goes with its last entry
+        for (std::size_t i = 0; i < count; ++i) {
+            LentEntry entry(entries[i], document.places.entry(array, i), i);
+            give(entry.get(), document.places, resource,
+                 i + 1 == count ? &document.value : nullptr);
         }
     }
 
-    void readElement(data::Value* value, json::Position position, json::Places& places,
-                     catalogue::Resource const* resource)
+    /// Reads one that is the whole document.
+    void readElement(json::Document& document)
     {
-        if (!isOf(ValueType::Object, value)) {
+        if (isElement(document.value.get(), document.position)) {
+            json::Entry entry{std::move(document.value), document.position, m_elements++,
+                              std::move(document.given)};
+            give(entry, document.places, m_resource, &entry.value);
+        }
+    }
+
+    bool isElement(data::Value const* value, json::Position position)
+    {
+        bool const isObject = isOf(ValueType::Object, value);
+        if (!isObject) {
             refuse(position, value, "an element",
                    isOf(ValueType::Array, value) ? "leave --element out" : "");
-            return;
         }
-        LentEntry entry(value, position, m_elements++);
-        give(entry.get(), places, resource, false);
+        return isObject;
+    }
+
+    /// The entries of lists are read in parts; those of what the resource does not have are not
+    /// looked at, unless the document may be a record.
+    bool takePart(json::Part& part)
+    {
+        auto const* const field = m_resource->find(part.key);
+        if (field == nullptr || (m_options.lines && part.key == recordedValue)) {
+            return !m_options.lines;
+        }
+        if (!catalogue::isList(field->kind)) {
+            return false;
+        }
+        m_handlers.onPart({m_input.name, *m_resource, m_elements + part.index, part});
+        return true;
     }
 
     /// Hands an element over, to the resource that its own uri names if none is known.
     void give(json::Entry& entry, json::Places& places, catalogue::Resource const* resource,
-              bool isAlone)
+              std::unique_ptr<data::Value>* owner)
     {
         std::string_view const uri = textAt(entry.value.get(), "uri");
         if (resource == nullptr && uri.starts_with('/')) {
@@ -192,7 +235,7 @@ private:
                   "give it a uri, or name the resource in the place of auto"});
             return;
         }
-        m_handlers.onEntry({m_input.name, *resource, entry, places, isAlone});
+        m_handlers.onEntry({m_input.name, *resource, entry, places, owner});
     }
 
     void refuse(json::Position position, data::Value const* value, std::string const& wanted,
@@ -214,6 +257,7 @@ private:
     InputFile m_input;
     DocumentOptions const& m_options;
     DocumentHandlers const& m_handlers;
+    json::Listeners m_listeners;
     catalogue::Resource const* m_resource; ///< null: each element says of which it is
     std::size_t m_elements = 0;            ///< that stood alone
 };

@@ -3,78 +3,71 @@
 #include "frame/IObjectBase.h"
 #include "text/Failure.h"
 
-#include <functional>
-#include <utility>
-
 namespace kiv {
 
 namespace {
 
-/// Adds to a finding where it stands in the text.
+/// Tells of findings together with who knows where they stand.
 class Placing : public diagnostics::Receiver {
 public:
-    using Handler = std::function<void(Placed placed)>;
-
-    Placing(json::Entry const& entry, json::Places const& places, Handler handler)
-        : m_entry(entry), m_places(places), m_handler(std::move(handler))
+    Placing(json::Position entry, json::Places const& places, FindingHandler const& handler)
+        : m_locator(entry, places), m_handler(handler)
     {
     }
 
-    void onFinding(diagnostics::Finding const& finding) override
-    {
-        m_handler({positionOf(finding), finding});
-    }
+    void onFinding(diagnostics::Finding const& finding) override { m_handler(finding, m_locator); }
 
 private:
-    [[nodiscard]] json::Position positionOf(diagnostics::Finding const& finding) const
-    {
-        auto const& [holder, key, index] = finding.place;
-        if (holder == nullptr) {
-            return m_entry.position;
-        }
-        if (key.empty()) {
-            return m_places.entry(*holder, index);
-        }
-        auto const* const place = m_places.find(static_cast<data::Object const&>(*holder), key);
-        bool const isAboutKey = finding.id == diagnostics::Id::UnknownKey;
-        return isAboutKey ? place->keyPosition : place->position;
-    }
-
-    json::Entry const& m_entry;
-    json::Places const& m_places;
-    Handler m_handler;
+    Locator m_locator;
+    FindingHandler const& m_handler;
 };
-
-std::unique_ptr<common::IObjectBase> readWith(catalogue::Resource const& resource,
-                                              json::Entry const& entry, json::Places const& places,
-                                              Placing::Handler handler)
-{
-    Placing placing(entry, places, std::move(handler));
-    return diagnostics::readEntry(resource, entry.index, entry.value.get(), placing);
-}
 
 } // namespace
 
-std::unique_ptr<common::IObjectBase> readEntry(catalogue::Resource const& resource,
-                                               json::Entry const& entry, json::Places const& places,
-                                               std::vector<Placed>& findings)
+json::Position Locator::positionOf(diagnostics::Finding const& finding) const
 {
-    return readWith(resource, entry, places,
-                    [&](Placed placed) { findings.push_back(std::move(placed)); });
+    auto const& [holder, key, index] = finding.place;
+    if (holder == nullptr) {
+        return m_entry;
+    }
+    if (key.empty()) {
+        return m_places.entry(*holder, index);
+    }
+    auto const* const place = m_places.find(static_cast<data::Object const&>(*holder), key);
+    bool const isAboutKey = finding.id == diagnostics::Id::UnknownKey;
+    return isAboutKey ? place->keyPosition : place->position;
 }
 
-std::unique_ptr<common::IObjectBase> readEntry(catalogue::Resource const& resource,
-                                               json::Entry const& entry, json::Places const& places,
-                                               std::string const& file)
+FindingHandler refuseForbidden(std::string const& file)
 {
-    return readWith(resource, entry, places, [&](Placed const& placed) {
-        auto const& finding = placed.finding;
+    return [file](diagnostics::Finding const& finding, Locator const& locator) {
         if (finding.fate == diagnostics::Fate::Forbidden) {
-            throw Failure(json::placeText(file, placed.position),
-                          finding.path + " is " + finding.stands + ", and " + finding.becomes +
-                              "; " + finding.meant);
+            throw Forbidden(json::placeText(file, locator.positionOf(finding)),
+                            finding.path + " is " + finding.stands + ", and " + finding.becomes +
+                                "; " + finding.meant,
+                            finding.firstKey);
         }
-    });
+    };
+}
+
+std::unique_ptr<common::IObjectBase> readEntry(DocumentEntry const& given,
+                                               FindingHandler const& handler,
+                                               std::span<diagnostics::ListPart const> parts)
+{
+    Placing placing(given.entry.position, given.places, handler);
+    return diagnostics::readEntry(given.resource, given.entry.index, given.entry.value.get(),
+                                  placing, parts);
+}
+
+std::unique_ptr<common::IObjectBase> readPart(DocumentPart const& given,
+                                              FindingHandler const& handler, bool hasTaken)
+{
+    json::Part& part = given.part;
+    diagnostics::ListPart const list{part.key, part.first, hasTaken, false};
+    data::Object element;
+    element.setNew(part.key.c_str(), part.array.release());
+    Placing placing({}, part.places, handler);
+    return diagnostics::readEntry(given.resource, given.index, &element, placing, {&list, 1});
 }
 
 } // namespace kiv

@@ -10,7 +10,7 @@
 #include "tools/kiv/Command.h"
 #include "tools/kiv/Documents.h"
 #include "tools/kiv/Interrupt.h"
-#include "tools/kiv/check/Checker.h"
+#include "tools/kiv/check/PartedLists.h"
 #include "tools/kiv/check/Platform.h"
 #include "tools/kiv/check/TextFindings.h"
 
@@ -153,22 +153,28 @@ private:
         return (rowOf(finding.id).isQuiet && !m_strict) || m_ignored.holds(finding);
     }
 
-    /// While the values that were read are still there.
-    void tellOfPlatform()
+    /// While the value that it is about is still there.
+    void tellOfPlatform(Placed& placed) const
     {
         if (m_platform) {
-            for (Placed& placed : m_found) {
-                m_platform->apply(placed.finding);
-            }
+            m_platform->apply(placed.finding);
         }
     }
 
     void checkFile(std::string const& file)
     {
+        PartedLists lists;
         DocumentHandlers handlers;
+        handlers.onPart = [&](DocumentPart const& given) {
+            lists.read(given, [&](Placed& placed) { tellOfPlatform(placed); });
+        };
         handlers.onEntry = [&](DocumentEntry const& given) {
-            static_cast<void>(readEntry(given.resource, given.entry, given.places, m_found));
-            tellOfPlatform();
+            auto const parts = lists.finish(given.entry.given, m_found);
+            auto const keep = [&](Finding const& finding, Locator const& locator) {
+                m_found.push_back({locator.positionOf(finding), finding});
+                tellOfPlatform(m_found.back());
+            };
+            static_cast<void>(readEntry(given, keep, parts));
             tellInOrder(given.file);
         };
         handlers.onWrongForm = [&](WrongForm const& form) {

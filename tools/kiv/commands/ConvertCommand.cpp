@@ -4,7 +4,7 @@
 #include "text/Failure.h"
 #include "tools/kiv/Command.h"
 #include "tools/kiv/Documents.h"
-#include "tools/kiv/check/Checker.h"
+#include "tools/kiv/convert/LongLists.h"
 
 #include <array>
 
@@ -50,16 +50,24 @@ public:
     /// A resource reads and writes an array of elements, each on its own, and anything but an array
     /// leaves it empty. So it is done here, for one element at a time: the result is that of the
     /// resource's `deserialize` and, for the full form, its `serialize`, and a file of any length
-    /// needs no more memory than its largest entry.
+    /// needs no more memory than its largest entry, less its long lists.
     Exit run(Console& console) override
     {
         auto const writer = json::makeWriter(console.output, layout());
-        bool const isList = !m_options.lines && !m_options.element;
+        bool const isList = m_options.isList();
         bool isWhole = true;
+        LongLists lists(type(), layout(), m_options.listDepth());
         DocumentHandlers handlers;
+        handlers.wantsPlaces = false;
+        handlers.onPart = [&](DocumentPart const& given) { lists.read(given); };
         handlers.onEntry = [&](DocumentEntry const& given) {
-            std::unique_ptr<data::Value> const value = converted(given);
-            isList ? writer->entry(value.get()) : writeLine(console, *value);
+            auto const element = lists.finish(given);
+            if (isList) {
+                write(element, [&](auto const&... what) { writer->entry(what...); });
+            } else { // each of them is a document
+                auto const line = json::makeWriter(console.output, layout());
+                write(element, [&](auto const&... what) { line->document(what...); });
+            }
         };
         handlers.onWrongForm = [&](WrongForm const& form) {
             isWhole = isList; // the library reads a list of none, but of an element nothing at all
@@ -92,17 +100,15 @@ private:
         return names;
     }
 
-    /// Only two of document, element and result are in memory at any time.
-    [[nodiscard]] std::unique_ptr<data::Value> converted(DocumentEntry const& given) const
+    /// A reference is no object, and has no lists.
+    template <typename Write>
+    static void write(LongLists::Element const& element, Write write)
     {
-        auto const element = readEntry(given.resource, given.entry, given.places, given.file);
-        given.forget();
-        return element->serialize(type());
-    }
-
-    void writeLine(Console& console, data::Value const& value) const
-    {
-        json::makeWriter(console.output, layout())->document(&value);
+        if (element.lists.empty()) {
+            write(element.value.get());
+        } else {
+            write(static_cast<data::Object const&>(*element.value), element.lists);
+        }
     }
 
     [[nodiscard]] json::Layout layout() const

@@ -43,8 +43,9 @@ void ElementFeed::read(std::stop_token const& stop, std::string const& path,
     try {
         std::size_t index = 0;
         DocumentHandlers handlers;
+        handlers.wantsPlaces = false;
         handlers.onEntry = [&](DocumentEntry const& given) {
-            auto const element = readEntry(given.resource, given.entry, given.places, given.file);
+            auto const element = readEntry(given, refuseForbidden(given.file), {});
             given.forget();
             give(stop,
                  {&given.resource, index++, element->serialize(common::SerializationType::Full)});
