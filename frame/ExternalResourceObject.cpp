@@ -142,7 +142,7 @@ void ExternalResourceObjectDeserializer::visitArray(PtrVector<Value> const& /*en
 
 void ExternalResourceObjectDeserializer::visitObject(PtrMap<std::string, Value> const& map)
 {
-    internal::ObjectReader fields(*m_target, 4);
+    internal::ObjectReader fields(*m_target);
     fields.readFrom(map);
     fields.readString("id", &ExternalResourceObject::setId);
     fields.readString("name", &ExternalResourceObject::setName);

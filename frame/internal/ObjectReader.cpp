@@ -50,6 +50,9 @@ finders(std::index_sequence<lengths...> /*lengths*/)
 // Up to the length that a string of the usual standard library holds without memory of its own.
 constexpr auto shortKeys = finders(std::make_index_sequence<16>());
 
+// For any long key, at once. It would grow if there were a longer one.
+constexpr std::size_t roomForKeys = 47;
+
 // Not in line, so that a key that is absent costs little.
 template <auto answer, typename Setter>
 [[gnu::noinline]] void set(IObjectBase& target, Setter setter, Value const& value)
@@ -117,13 +120,6 @@ Handover<IObjectBase> const* chosen(std::string const& resource, Targets targets
 
 } // namespace
 
-ObjectReader::ObjectReader(IObjectBase& target, std::size_t longestKey) : m_target(&target)
-{
-    if (longestKey > m_key.capacity()) {
-        m_key.reserve(longestKey);
-    }
-}
-
 void ObjectReader::readFrom(Map const& map)
 {
     m_map = &map;
@@ -140,6 +136,9 @@ Value const* ObjectReader::find(Key key)
 // Not in line either, so that a short key costs nothing more.
 [[gnu::noinline]] Value const* ObjectReader::findLong(Key key)
 {
+    if (m_key.capacity() < roomForKeys) {
+        m_key.reserve(roomForKeys);
+    }
     m_key.clear();
     m_key.append(key.text, key.length);
     return lookUp(*m_map, m_key);

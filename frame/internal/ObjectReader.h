@@ -27,9 +27,7 @@ class ObjectReader {
 public:
     using Map = zel::common::types::PtrMap<std::string, zel::dataformats::data::Value>;
 
-    /// `longestKey` is the length of the longest key that will be asked for: long keys are looked
-    /// up through one buffer that grows once.
-    ObjectReader(IObjectBase& target, std::size_t longestKey);
+    explicit ObjectReader(IObjectBase& target) : m_target(&target) {}
 
     /// Says what to read from, before anything is read.
     void readFrom(Map const& map);
@@ -114,7 +112,7 @@ private:
 
     Map const* m_map = nullptr;
     IObjectBase* m_target;
-    std::string m_key;
+    std::string m_key; ///< the long key that is looked up
 };
 
 } // namespace zel::kiv::common::internal

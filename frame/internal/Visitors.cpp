@@ -33,9 +33,8 @@ private:
 /// Reads the fields of an element from an object.
 class ElementVisitor final : public ConstVisitor {
 public:
-    ElementVisitor(IObjectBase& target, void (*readFields)(ObjectReader& fields),
-                   std::size_t longestKey)
-        : m_fields(target, longestKey), m_readFields(readFields)
+    ElementVisitor(IObjectBase& target, void (*readFields)(ObjectReader& fields))
+        : m_fields(target), m_readFields(readFields)
     {
     }
     // In line, it would make every level of nesting take more stack.
@@ -127,9 +126,9 @@ private:
 } // namespace
 
 bool deserializeElement(IObjectBase& target, Value const* value,
-                        void (*readFields)(ObjectReader& fields), std::size_t longestKey)
+                        void (*readFields)(ObjectReader& fields))
 {
-    ElementVisitor visitor(target, readFields, longestKey);
+    ElementVisitor visitor(target, readFields);
     notice::Reading const reading(target, value);
     visitor.visit(value);
     reading.done();

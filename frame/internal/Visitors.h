@@ -5,8 +5,6 @@
 #include "frame/internal/Handover.h"
 #include "values/values.h"
 
-#include <cstddef>
-
 /// What visits values for all classes. A class says how its fields are read, or to whom its
 /// elements are given; the visitors are compiled once.
 namespace zel::kiv::common::internal {
@@ -14,11 +12,10 @@ namespace zel::kiv::common::internal {
 class ObjectReader;
 
 /// Fills an element from the value, which may be null if the value library takes that. Of an object
-/// the fields are read by `readFields`, whose longest key is that long; any other value is noted as
-/// a fault. Always true, as the result of `deserialize`, which so ends in a jump and takes no
-/// stack.
+/// the fields are read by `readFields`; any other value is noted as a fault. Always true, as the
+/// result of `deserialize`, which so ends in a jump and takes no stack.
 bool deserializeElement(IObjectBase& target, zel::dataformats::data::Value const* value,
-                        void (*readFields)(ObjectReader& fields), std::size_t longestKey);
+                        void (*readFields)(ObjectReader& fields));
 
 /// Fills a resource from the value, which may be null if the value library takes that. Of an array
 /// an element is made of each entry, null entries included, and handed over; any other value is

@@ -3,7 +3,6 @@
 #include "generator/pages/Pages.h"
 #include "generator/pages/Signatures.h"
 
-#include <algorithm>
 #include <string>
 
 namespace kivgen {
@@ -37,7 +36,7 @@ $targets$
 struct $Element$Deserializer {
     static bool read(Element& target, Value const* value)
     {
-        return internal::deserializeElement(target, value, readFields, $longestKey$);
+        return internal::deserializeElement(target, value, readFields);
     }
 
     static void readFields(internal::ObjectReader& fields)
@@ -142,16 +141,6 @@ $head$
                 {{"head", head}, {"releases", releases}});
 }
 
-/// Only what is longer than a string holds in place is worth a reservation; the library asks again.
-std::size_t longestKeyOf(Resource const& resource)
-{
-    std::size_t longest = 0;
-    for (Field const& field : resource.fields) {
-        longest = std::max(longest, field.key.size());
-    }
-    return longest;
-}
-
 Block readEntriesOf(Resource const& resource)
 {
     std::string const failure = "Error while deserializing array into '" + resource.name +
@@ -198,7 +187,6 @@ std::string sourcePage(Resource const& resource, Interface const& interface)
                  {"service", resource.service},
                  {"Resource", resource.name},
                  {"Element", resource.element},
-                 {"longestKey", std::to_string(longestKeyOf(resource))},
                  {"reads", steps.reads},
                  {"targets", steps.targets},
                  {"readEntries", readEntriesOf(resource)},

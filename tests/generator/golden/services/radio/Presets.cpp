@@ -37,7 +37,7 @@ constexpr internal::Handover<common::IObjectBase> referenceLastResort =
 struct PresetObjectDeserializer {
     static bool read(Element& target, Value const* value)
     {
-        return internal::deserializeElement(target, value, readFields, 11);
+        return internal::deserializeElement(target, value, readFields);
     }
 
     static void readFields(internal::ObjectReader& fields)

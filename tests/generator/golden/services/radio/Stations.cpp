@@ -23,7 +23,7 @@ using StationObject = Element;
 struct StationObjectDeserializer {
     static bool read(Element& target, Value const* value)
     {
-        return internal::deserializeElement(target, value, readFields, 7);
+        return internal::deserializeElement(target, value, readFields);
     }
 
     static void readFields(internal::ObjectReader& fields)

@@ -23,7 +23,7 @@ using ClockObject = Element;
 struct ClockObjectDeserializer {
     static bool read(Element& target, Value const* value)
     {
-        return internal::deserializeElement(target, value, readFields, 4);
+        return internal::deserializeElement(target, value, readFields);
     }
 
     static void readFields(internal::ObjectReader& fields)
