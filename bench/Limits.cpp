@@ -158,7 +158,8 @@ void addCases(std::vector<Case>& cases, std::string const& name, Document const&
 {
     using Mirror = typename Root::Element;
     using Resource = typename Root::Resource;
-    auto const mirrors = std::make_shared<std::vector<Mirror>>();
+    // Each in a piece of memory of its own, as typed elements are.
+    auto const mirrors = std::make_shared<std::vector<std::unique_ptr<Mirror>>>();
     read(*document, *mirrors);
     std::size_t const elements = mirrors->size();
     cases.push_back({name, "serialize", "build", elements,
@@ -174,9 +175,9 @@ void addCases(std::vector<Case>& cases, std::string const& name, Document const&
                      }});
     cases.push_back({name, "deserialize", "fill", elements, [mirrors] {
                          auto resource = std::make_unique<Resource>();
-                         for (Mirror const& mirror : *mirrors) {
+                         for (auto const& mirror : *mirrors) {
                              auto element = std::make_unique<typename Mirror::Class>();
-                             fillInto(*element, mirror);
+                             fillInto(*element, *mirror);
                              resource->addObject(std::move(element));
                          }
                          return Result(std::move(resource));
