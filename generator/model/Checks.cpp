@@ -212,6 +212,25 @@ void checkResourceKeys(std::vector<Definition> const& definitions, Faults& fault
     }
 }
 
+void checkElementNames(std::vector<Definition> const& definitions, Faults& faults)
+{
+    std::map<std::pair<std::string, std::string>, Resource const*> resources;
+    for (Definition const& definition : definitions) {
+        Resource const& resource = definition.resource;
+        resources.emplace(std::pair{resource.service, resource.name}, &resource);
+    }
+    for (Definition const& definition : definitions) {
+        Resource const& resource = definition.resource;
+        auto const found = resources.find({resource.service, resource.element});
+        if (found != resources.end() && found->second != &resource) {
+            faults.push_back({definition.placeOfElement,
+                              "the element class " + inQuotes(resource.element) +
+                                  " has the name of a resource class of this service; rename one",
+                              {{found->second->place, "the resource class is defined here"}}});
+        }
+    }
+}
+
 void checkAccessors(Interface const& interface, Faults& faults)
 {
     for (Resource const& resource : interface.resources) {

@@ -16,6 +16,9 @@ void checkTargets(std::vector<Definition> const& definitions, std::vector<std::s
 /// Whether uris can tell the resources of a service apart.
 void checkResourceKeys(std::vector<Definition> const& definitions, Faults& faults);
 
+/// Whether no element class is named as a resource class of its service.
+void checkElementNames(std::vector<Definition> const& definitions, Faults& faults);
+
 /// Whether the accessors of each element have names of their own.
 void checkAccessors(Interface const& interface, Faults& faults);
 

@@ -76,6 +76,7 @@ void Collection::checkWhole(Interface const& interface)
     std::ranges::sort(m_names);
     checkTargets(m_definitions, m_names, m_faults);
     checkResourceKeys(m_definitions, m_faults);
+    checkElementNames(m_definitions, m_faults);
     checkAccessors(interface, m_faults);
     if (m_isWhole) {
         checkProseNames(m_definitions, m_services, m_names, m_faults);

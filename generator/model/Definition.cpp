@@ -99,6 +99,7 @@ void Reader::readElement(Entry const& entry)
     }
     auto const& name = *text;
     m_definition.resource.element = name;
+    m_definition.placeOfElement = entry.value.place;
     auto const shown = "the element class " + inQuotes(name);
     if (!hasClassForm(name)) {
         fail(entry.value.place, shown + " must begin with a capital and go on with letters and "

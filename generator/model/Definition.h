@@ -22,7 +22,8 @@ struct Use {
 /// What one file says.
 struct Definition {
     Resource resource;
-    std::vector<Use> uses;      ///< all targets but external ones
+    std::vector<Use> uses; ///< all targets but external ones
+    SourcePosition placeOfElement;
     SourcePosition placeOfKey;  ///< where `resource_key` is given, or the file as a whole
     std::set<std::string> keys; ///< of all fields, also of those whose row is faulty
     std::vector<Prose> prose;   ///< what it says to people

@@ -71,8 +71,8 @@ std::vector<Item> Loader::itemsOf(Item const& folder)
         entry.increment(error);
     }
     if (error) {
-        fail(folder, "the folder " + inQuotes(folder.path.string()) +
-                         " cannot be read: " + error.message());
+        m_collection.faults().push_back(
+            {{printable(folder.path.string())}, "this folder cannot be read: " + error.message()});
     }
     // The order of folders is that of the file system; the output must not depend on it.
     std::ranges::sort(items, {}, &Item::name);

@@ -60,13 +60,13 @@ SourcePosition placeOf(std::string const& name, toml::source_position position)
 }
 
 /// The parser notices a key that is there already behind it, at the equals sign or the value. The
-/// key itself begins its line, unless it stands in an inline table.
-std::size_t columnOfKey(std::string_view line, SourcePosition const& noticed)
+/// key itself begins its line, unless it stands in an inline table: then nothing is given.
+std::optional<std::size_t> columnOfKey(std::string_view line, SourcePosition const& noticed)
 {
     auto const before = line.substr(0, noticed.column);
     auto const first = before.find_first_not_of(" \t");
     bool const isInline = before.find('{') != std::string_view::npos;
-    return isInline || first == std::string_view::npos ? noticed.column : first + 1;
+    return isInline || first == std::string_view::npos ? std::nullopt : std::optional(first + 1);
 }
 
 bool isLetter(char each)
@@ -95,6 +95,37 @@ std::string_view bareWords(std::string_view line)
     return std::ranges::all_of(words, isOfWords) ? words : std::string_view{};
 }
 
+/// The last place of a key that no inline table holds, or nothing.
+std::optional<toml::source_position> lastPlaceOf(std::string_view key, toml::table const& table)
+{
+    std::optional<toml::source_position> last;
+    auto const note = [&](std::optional<toml::source_position> const& place) {
+        last = place && (!last || *last < *place) ? place : last;
+    };
+    for (auto const& [each, value] : table) {
+        if (each.str() == key) {
+            note(each.source().begin);
+        }
+        auto const* const below = value.as_table();
+        if (below != nullptr && !below->is_inline()) {
+            note(lastPlaceOf(key, *below));
+        }
+    }
+    return last;
+}
+
+/// Where a key stood first that begins this line, if that is known.
+std::vector<Mention> firstPlaceOf(std::string_view key, TomlText const& text,
+                                  SourcePosition const& again)
+{
+    auto const result = toml::parse(text.above(again.line));
+    auto const place = result ? lastPlaceOf(key, result.table()) : std::nullopt;
+    if (!place) {
+        return {};
+    }
+    return {{placeOf(again.file, *place), "it stands here first"}};
+}
+
 Fault faultOf(toml::parse_error const& error, TomlText const& text, std::string const& name)
 {
     auto place = placeOf(name, error.source().begin);
@@ -113,10 +144,12 @@ Fault faultOf(toml::parse_error const& error, TomlText const& text, std::string 
     if (description.find("cannot redefine") == std::string_view::npos) {
         return {place, "is not TOML: " + printable(lowered(description))};
     }
-    place.column = columnOfKey(line, place);
+    auto const column = columnOfKey(line, place);
+    place.column = column.value_or(place.column);
     auto const open = description.find('\'') + 1;
     auto const key = description.substr(open, description.rfind('\'') - open);
-    return {place, "the key " + inQuotes(key) + " stands here a second time; keep one of the two"};
+    return {place, "the key " + inQuotes(key) + " stands here a second time; keep one of the two",
+            column ? firstPlaceOf(key, text, place) : std::vector<Mention>{}};
 }
 
 /// Whether the fault lies in that line. If not it lies above, in what the line is taken for a part

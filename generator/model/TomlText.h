@@ -23,6 +23,11 @@ public:
     bool leaveOut(std::size_t number);
 
     [[nodiscard]] std::string_view line(std::size_t number) const;
+    /// All lines above that one.
+    [[nodiscard]] std::string_view above(std::size_t number) const
+    {
+        return std::string_view(m_text).substr(0, beginOf(number));
+    }
     [[nodiscard]] std::string const& text() const { return m_text; }
     [[nodiscard]] bool isWhole() const { return m_isWhole; }
 
