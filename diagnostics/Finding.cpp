@@ -11,6 +11,8 @@ std::string_view wordOf(Fate fate)
         return "changed";
     case Fate::Invented:
         return "invented";
+    case Fate::Mistaken:
+        return "mistaken";
     case Fate::Suspect:
         return "suspect";
     case Fate::Forbidden:

@@ -15,6 +15,7 @@ enum class Fate {
     Lost,      ///< nothing of it arrives
     Changed,   ///< another value arrives
     Invented,  ///< something arrives that was not given
+    Mistaken,  ///< it arrives as it stands, and was meant otherwise
     Suspect,   ///< it arrives as it stands, but was hardly meant so
     Forbidden, ///< the library must never be given it
 };

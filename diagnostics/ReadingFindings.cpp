@@ -233,13 +233,15 @@ void ReadingTrail::choose(data::Value const& value, data::Object const& object,
     }
     std::vector<std::string_view> const known(names.begin(), names.end());
     std::string meant = hasSlash ? guess(resource, known) : std::string(slashHint);
+    // A reference that was hardly meant to lead outside must not pass for one.
+    Fate const fateIfTaken = hasSlash && !meant.empty() ? Fate::Mistaken : Fate::Suspect;
     if (meant.empty()) {
         if (hasLastResort) {
             names.emplace_back("external");
         }
         meant = "the field holds " + listed(names, "or");
     }
-    tell(here(isTaken ? Fate::Suspect : Fate::Lost, Id::NoTarget),
+    tell(here(isTaken ? fateIfTaken : Fate::Lost, Id::NoTarget),
          "a uri of " + std::string(resource) + ", which the field does not name",
          isTaken ? "it is held as a reference to the outside, with id, name and uri alone"
                  : "the field is left as it was",

@@ -28,7 +28,8 @@ using diagnostics::Id;
 bool tellsOfDifference(Finding const& finding)
 {
     static std::set<Id> const nulls{Id::NullValue, Id::NullEntry, Id::UnknownKey};
-    return finding.fate != Fate::Suspect || nulls.contains(finding.id);
+    bool const arrives = finding.fate == Fate::Suspect || finding.fate == Fate::Mistaken;
+    return !arrives || nulls.contains(finding.id);
 }
 
 struct Differences : diagnostics::Receiver {

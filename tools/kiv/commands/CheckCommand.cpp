@@ -230,10 +230,7 @@ private:
     void count(Finding const& finding)
     {
         m_isReadOtherwise = m_isReadOtherwise || finding.id == Id::OtherType;
-        // A reference that was hardly meant to lead outside must not pass for one.
-        bool const isMisspelt =
-            finding.id == Id::NoTarget && finding.meant.starts_with("did you mean");
-        ++(finding.fate == Fate::Suspect && !isMisspelt ? m_suspects : m_findings);
+        ++(finding.fate == Fate::Suspect ? m_suspects : m_findings);
     }
 
     static void print(Console& console, std::string const& file, Placed const& placed)
