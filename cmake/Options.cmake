@@ -63,9 +63,13 @@ target_include_directories(zel_kiv_tool_options INTERFACE ${PROJECT_SOURCE_DIR})
 # the compiler leaves those out only where it writes the tables itself.
 set(flags_for_libraries
     -fno-semantic-interposition -fno-asynchronous-unwind-tables -fno-dwarf2-cfi-asm)
-# The passes that are left out keep addresses in registers that are as soon formed anew; each of
-# those takes room on the stack at every level of nesting.
-set(flags_for_size -fno-gcse -fno-rerun-cse-after-loop -fno-split-wide-types)
+# Passes that are left out. The first keep addresses in registers that are as soon formed anew; each of
+# those takes room on the stack at every level of nesting. The others take time and make the code of
+# the classes, which is short steps in a row, no smaller or even larger.
+set(flags_for_size
+    -fno-gcse -fno-rerun-cse-after-loop -fno-split-wide-types -fno-move-loop-invariants
+    -fno-cse-follow-jumps -fno-guess-branch-probability -fno-ipa-sra -fno-schedule-insns2
+    -fno-thread-jumps -fno-tree-loop-optimize -fno-tree-pre)
 # `scripts/lint` takes these out of what it gives to clang-tidy.
 list(JOIN flags_for_libraries "\n" library_lines)
 list(JOIN flags_for_size "\n" size_lines)
