@@ -32,8 +32,9 @@ enum class Content { String, Integer, Float, Boolean, Object };
 
 /// What makes a kind what it is. In the C++ types `T` stands for the class of the target.
 struct KindTraits {
-    std::string_view word; ///< as definitions and messages spell it: `string list`
-    Kind entry = {};       ///< the kind of one entry of a list; of any other kind, the kind itself
+    std::string_view word;  ///< as definitions and messages spell it: `string list`
+    std::string_view table; ///< if definitions name its targets, the key they do it by: `element`
+    Kind entry = {};        ///< the kind of one entry of a list; of any other kind, the kind itself
     Content content = {};
     std::string_view stored;    ///< the member: `std::vector<std::string>`
     std::string_view result;    ///< what the getter gives: `std::string const&`
@@ -50,6 +51,7 @@ constexpr KindTraits traitsOf(Kind kind)
     switch (kind) {
     case Kind::String:
         return {.word = "string",
+                .table = "",
                 .entry = Kind::String,
                 .content = Content::String,
                 .stored = "std::string",
@@ -60,6 +62,7 @@ constexpr KindTraits traitsOf(Kind kind)
                 .wanted = "text"};
     case Kind::Int:
         return {.word = "int",
+                .table = "",
                 .entry = Kind::Int,
                 .content = Content::Integer,
                 .stored = "int",
@@ -70,6 +73,7 @@ constexpr KindTraits traitsOf(Kind kind)
                 .wanted = "an integer"};
     case Kind::Double:
         return {.word = "double",
+                .table = "",
                 .entry = Kind::Double,
                 .content = Content::Float,
                 .stored = "double",
@@ -80,6 +84,7 @@ constexpr KindTraits traitsOf(Kind kind)
                 .wanted = "a number"};
     case Kind::Bool:
         return {.word = "bool",
+                .table = "",
                 .entry = Kind::Bool,
                 .content = Content::Boolean,
                 .stored = "bool",
@@ -90,6 +95,7 @@ constexpr KindTraits traitsOf(Kind kind)
                 .wanted = "true or false"};
     case Kind::StringList:
         return {.word = "string list",
+                .table = "",
                 .entry = Kind::String,
                 .content = Content::String,
                 .stored = "std::vector<std::string>",
@@ -100,6 +106,7 @@ constexpr KindTraits traitsOf(Kind kind)
                 .wanted = "an array"};
     case Kind::IntList:
         return {.word = "int list",
+                .table = "",
                 .entry = Kind::Int,
                 .content = Content::Integer,
                 .stored = "std::vector<int>",
@@ -110,6 +117,7 @@ constexpr KindTraits traitsOf(Kind kind)
                 .wanted = "an array"};
     case Kind::Element:
         return {.word = "element",
+                .table = "element",
                 .entry = Kind::Element,
                 .content = Content::Object,
                 .stored = "T*",
@@ -120,6 +128,7 @@ constexpr KindTraits traitsOf(Kind kind)
                 .wanted = "an object or a uri"};
     case Kind::ElementList:
         return {.word = "element list",
+                .table = "element_list",
                 .entry = Kind::Element,
                 .content = Content::Object,
                 .stored = "std::vector<T*>",
@@ -130,6 +139,7 @@ constexpr KindTraits traitsOf(Kind kind)
                 .wanted = "an array"};
     case Kind::External:
         return {.word = "external",
+                .table = "",
                 .entry = Kind::External,
                 .content = Content::Object,
                 .stored = "T*",
@@ -140,6 +150,7 @@ constexpr KindTraits traitsOf(Kind kind)
                 .wanted = "an object or a uri"};
     case Kind::ExternalList:
         return {.word = "external list",
+                .table = "",
                 .entry = Kind::External,
                 .content = Content::Object,
                 .stored = "std::vector<T*>",
@@ -150,6 +161,7 @@ constexpr KindTraits traitsOf(Kind kind)
                 .wanted = "an array"};
     case Kind::Polymorphic:
         return {.word = "polymorphic",
+                .table = "polymorphic",
                 .entry = Kind::Polymorphic,
                 .content = Content::Object,
                 .stored = "IObjectBase*",

@@ -15,10 +15,30 @@ namespace kivgen {
 namespace {
 
 using kiv::didYouMean;
+using zel::kiv::catalogue::isList;
 using zel::kiv::catalogue::kindOf;
+using zel::kiv::catalogue::kinds;
 using zel::kiv::catalogue::kindWords;
+using zel::kiv::catalogue::traitsOf;
 
-constexpr std::array<std::string_view, 3> targetKeys{"element", "element_list", "polymorphic"};
+/// Whether a field of that kind is written as a table, since it names what it holds.
+constexpr bool needsTable(Kind kind)
+{
+    return !traitsOf(kind).table.empty();
+}
+
+/// The kinds that are, and the keys of their tables.
+constexpr auto tableKinds = [] {
+    std::array<Kind, std::ranges::count_if(kinds, needsTable)> chosen{};
+    std::ranges::copy_if(kinds, chosen.begin(), needsTable);
+    return chosen;
+}();
+constexpr auto tableKeys = [] {
+    std::array<std::string_view, tableKinds.size()> keys{};
+    std::ranges::transform(tableKinds, keys.begin(),
+                           [](Kind kind) { return traitsOf(kind).table; });
+    return keys;
+}();
 
 /// What other languages call a kind.
 struct OtherWord {
@@ -106,27 +126,6 @@ void Reader::readRow(Entry const& row)
     }
 }
 
-/// Whether a field of that kind is written as a table, since it names what it holds.
-bool needsTable(Kind kind)
-{
-    switch (kind) {
-    case Kind::Element:
-    case Kind::ElementList:
-    case Kind::Polymorphic:
-        return true;
-    case Kind::String:
-    case Kind::Int:
-    case Kind::Double:
-    case Kind::Bool:
-    case Kind::StringList:
-    case Kind::IntList:
-    case Kind::External:
-    case Kind::ExternalList:
-        break;
-    }
-    return false;
-}
-
 /// What would be right instead of a word that is no kind.
 std::string instead(std::string_view word)
 {
@@ -144,7 +143,7 @@ std::string instead(std::string_view word)
         return meant;
     }
     std::vector<std::string> words;
-    for (Kind const kind : zel::kiv::catalogue::kinds) {
+    for (Kind const kind : kinds) {
         if (!needsTable(kind)) {
             words.push_back(inQuotes(wordOf(kind)));
         }
@@ -159,9 +158,8 @@ std::string asTable(Kind kind)
         return "a polymorphic field names its targets: { polymorphic = [\"service::Resource\", "
                "\"external\"] }";
     }
-    bool const isList = zel::kiv::catalogue::isList(kind);
-    return std::string(isList ? "an element list" : "an element field") +
-           " names its target: " + spelt(isList ? "element_list" : "element", "service::Resource");
+    return std::string(isList(kind) ? "an element list" : "an element field") +
+           " names its target: " + spelt(traitsOf(kind).table, "service::Resource");
 }
 
 void Reader::readWord(Node const& value, Field field)
@@ -169,7 +167,7 @@ void Reader::readWord(Node const& value, Field field)
     auto const kind = kindOf(value.text);
     if (!kind && value.text.find("::") != std::string::npos) {
         fail(value.place, inQuotes(value.text) + " is no kind; a field that holds an element is " +
-                              spelt("element", "service::Resource"));
+                              spelt(traitsOf(Kind::Element).table, "service::Resource"));
     } else if (!kind) {
         fail(value.place, "unknown kind " + inQuotes(value.text) + instead(value.text));
     } else if (needsTable(*kind)) {
@@ -185,17 +183,18 @@ void Reader::readWord(Node const& value, Field field)
 
 Entry const* Reader::targetIn(Node const& value)
 {
-    constexpr std::string_view choice = "one of 'element', 'element_list' and 'polymorphic'";
+    std::vector<std::string> words;
+    std::ranges::transform(tableKeys, std::back_inserter(words), inQuotes);
+    std::string const choice = "one of " + kiv::listed(words, "and");
     if (value.table.empty()) {
-        fail(value.place, "the table names no target; it takes " + std::string{choice});
+        fail(value.place, "the table names no target; it takes " + choice);
     }
     Entry const* chosen = nullptr;
     for (Entry const& entry : value.table) {
-        if (std::ranges::find(targetKeys, entry.key) == targetKeys.end()) {
-            auto const meant = didYouMean(entry.key, targetKeys);
-            fail(entry.place,
-                 "unknown key " + inQuotes(entry.key) +
-                     (meant.empty() ? "; the table takes " + std::string{choice} : meant));
+        if (std::ranges::find(tableKeys, entry.key) == tableKeys.end()) {
+            auto const meant = didYouMean(entry.key, tableKeys);
+            fail(entry.place, "unknown key " + inQuotes(entry.key) +
+                                  (meant.empty() ? "; the table takes " + choice : meant));
         } else if (chosen == nullptr) {
             chosen = &entry;
         } else {
@@ -212,17 +211,16 @@ void Reader::readTable(Node const& value, Field field)
     if (chosen == nullptr) {
         return;
     }
-    if (chosen->key == "polymorphic") {
-        field.kind = Kind::Polymorphic;
+    field.kind =
+        *std::ranges::find(tableKinds, chosen->key, [](Kind kind) { return traitsOf(kind).table; });
+    if (field.kind == Kind::Polymorphic) {
         readTargets(chosen->value, field);
         add(std::move(field));
         return;
     }
-    bool const isList = chosen->key == "element_list";
-    field.kind = isList ? Kind::ElementList : Kind::Element;
     if (chosen->value.text == externalWord) {
-        fail(chosen->value.place, std::string{"this field is written "} +
-                                      (isList ? "\"external list\"" : "\"external\""));
+        Kind const meant = isList(field.kind) ? Kind::ExternalList : Kind::External;
+        fail(chosen->value.place, "this field is written " + kiv::inDoubleQuotes(wordOf(meant)));
     } else if (isTarget(chosen->value)) {
         addTarget(chosen->value, field);
     }

@@ -85,29 +85,18 @@ std::string spelt(Target const& target)
 /// What stands behind the key of a field.
 std::string spelt(Field const& field)
 {
-    switch (field.kind) {
-    case Kind::String:
-    case Kind::Int:
-    case Kind::Double:
-    case Kind::Bool:
-    case Kind::StringList:
-    case Kind::IntList:
-    case Kind::External:
-    case Kind::ExternalList:
-        break;
-    case Kind::Element:
-        return "{ element = " + spelt(field.targets.front()) + " }";
-    case Kind::ElementList:
-        return "{ element_list = " + spelt(field.targets.front()) + " }";
-    case Kind::Polymorphic: {
-        std::string targets;
-        for (Target const& target : field.targets) {
-            targets += (targets.empty() ? "" : ", ") + spelt(target);
-        }
-        return "{ polymorphic = [" + targets + "] }";
+    auto const traits = zel::kiv::catalogue::traitsOf(field.kind);
+    if (traits.table.empty()) {
+        return inToml(traits.word);
     }
+    std::string targets;
+    for (Target const& target : field.targets) {
+        targets += (targets.empty() ? "" : ", ") + spelt(target);
     }
-    return inToml(zel::kiv::catalogue::wordOf(field.kind));
+    if (field.kind == Kind::Polymorphic) {
+        targets = '[' + targets + ']';
+    }
+    return "{ " + std::string(traits.table) + " = " + targets + " }";
 }
 
 std::string textOf(Service const& service)
