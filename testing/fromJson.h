@@ -47,6 +47,7 @@ namespace detail {
                   what);
 }
 
+/// Builds the values of a text that is whole in memory.
 class TextBuilder : public ValueBuilder {
 public:
     TextBuilder(std::string_view text, rapidjson::MemoryStream const& stream)

@@ -13,6 +13,7 @@
 
 namespace zel::kiv::testing {
 
+/// All in one line without blanks, or each value on a line of its own.
 enum class Layout { Compact, Indented };
 
 /// A value as JSON, null for a null pointer. A number that is not finite and a blob are written in
