@@ -192,61 +192,57 @@ void Report::finish()
     if (m_isFinished.exchange(true)) {
         return;
     }
-    m_isJson ? finishJson() : finishText();
-}
-
-void Report::finishText()
-{
     for (auto const* told = m_last.load(); told != nullptr; told = told->next) {
         if (told->times > 1) {
             Line line;
-            begin(line) << static_cast<std::uint64_t>(told->times) << " times: " << told->text;
+            putTimes(line, *told);
             m_sink.write(line.ended());
         }
     }
     if (m_untold > 0) {
         Line line;
-        begin(line) << static_cast<std::uint64_t>(m_untold) << " more findings, of other kinds";
+        putUntold(line);
         m_sink.write(line.ended());
     }
     for (std::size_t i = 0; i < m_totals.size(); ++i) {
         auto const& row = m_totals.row(i);
-        if (row.in + row.out == 0 && row.findings == 0) {
-            continue;
-        }
-        auto const [service, resource] = Totals::nameAt(i);
-        Line line;
-        begin(line) << service << (resource.empty() ? "" : "/") << resource << ": in " << row.in
-                    << ", out " << row.out << ", elements " << row.elements << ", microseconds "
-                    << row.nanoseconds / 1000 << ", findings " << row.findings;
-        m_sink.write(line.ended());
-    }
-}
-
-void Report::finishJson()
-{
-    for (auto const* told = m_last.load(); told != nullptr; told = told->next) {
-        if (told->times > 1) {
+        if (row.in + row.out > 0 || row.findings > 0) {
             Line line;
-            begin(line, m_program)
-                << "," << told->fields << ",\"times\":" << static_cast<std::uint64_t>(told->times)
-                << "}";
+            putTotals(line, i);
             m_sink.write(line.ended());
         }
     }
-    for (std::size_t i = 0; i < m_totals.size(); ++i) {
-        auto const& row = m_totals.row(i);
-        if (row.in + row.out == 0 && row.findings == 0) {
-            continue;
-        }
-        auto const [service, resource] = Totals::nameAt(i);
-        Line line;
-        begin(line, m_program) << R"(,"class":")" << service << (resource.empty() ? "" : "/")
-                               << resource << R"(","in":)" << row.in << ",\"out\":" << row.out
+}
+
+void Report::putTimes(Line& line, Told const& told) const
+{
+    std::uint64_t const times = told.times;
+    m_isJson ? begin(line, m_program) << "," << told.fields << ",\"times\":" << times << "}"
+             : begin(line) << times << " times: " << told.text;
+}
+
+void Report::putUntold(Line& line) const
+{
+    std::uint64_t const untold = m_untold;
+    m_isJson ? begin(line, m_program) << ",\"untold\":" << untold << "}"
+             : begin(line) << untold << " more findings, of other kinds";
+}
+
+void Report::putTotals(Line& line, std::size_t index) const
+{
+    auto const& row = m_totals.row(index);
+    auto const [service, resource] = Totals::nameAt(index);
+    auto const slash = resource.empty() ? "" : "/";
+    if (m_isJson) {
+        begin(line, m_program) << R"(,"class":")" << service << slash << resource << R"(","in":)"
+                               << row.in << ",\"out\":" << row.out
                                << ",\"elements\":" << row.elements
                                << ",\"microseconds\":" << row.nanoseconds / 1000
                                << ",\"findings\":" << row.findings << "}";
-        m_sink.write(line.ended());
+    } else {
+        begin(line) << service << slash << resource << ": in " << row.in << ", out " << row.out
+                    << ", elements " << row.elements << ", microseconds " << row.nanoseconds / 1000
+                    << ", findings " << row.findings;
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "diagnostics/Ignored.h"
+#include "diagnostics/Line.h"
 #include "diagnostics/Receiver.h"
 #include "diagnostics/Record.h"
 #include "diagnostics/Sink.h"
@@ -40,9 +41,9 @@ private:
     };
 
     void tell(Finding const& finding, Told const& told);
-    void finishText();
-    void finishJson();
-    [[nodiscard]] bool isJson() const { return m_isJson; }
+    void putTimes(Line& line, Told const& told) const;
+    void putUntold(Line& line) const;
+    void putTotals(Line& line, std::size_t index) const;
 
     std::string m_program;
     Ignored m_ignored;

@@ -78,6 +78,16 @@ void readAtOnce()
     }
 }
 
+/// Two findings more than are told one by one.
+void readMany()
+{
+    Object preset;
+    for (int i = 0; i < 10'002; ++i) {
+        preset.setNew(std::to_string(i).c_str(), new Integer(i));
+    }
+    radio::Presets::PresetObject().deserialize(&preset);
+}
+
 void writeNullSlot()
 {
     radio::Presets presets;
@@ -117,6 +127,8 @@ int main(int, char** arguments)
         readAtOnce();
     } else if (what == "refused") {
         readRefused();
+    } else if (what == "many") {
+        readMany();
     } else if (what == "slot") {
         writeNullSlot();
     } else if (what == "element") {
