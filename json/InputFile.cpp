@@ -12,15 +12,15 @@ namespace kiv {
 
 namespace {
 
-std::size_t readFrom(std::FILE* file, std::string const& name, std::span<char> buffer)
+/// What there is, so that what comes slowly through a pipe is not waited for. An interrupt ends the
+/// text.
+std::size_t readFrom(int descriptor, std::string const& name, std::span<char> buffer)
 {
-    std::size_t const count = std::fread(buffer.data(), 1, buffer.size(), file);
-    if (std::ferror(file) != 0 && errno == EINTR) {
-        std::clearerr(file);
-    } else if (std::ferror(file) != 0) {
+    ssize_t const count = read(descriptor, buffer.data(), buffer.size());
+    if (count < 0 && errno != EINTR) {
         throw Failure(name, std::string("cannot read: ") + std::strerror(errno));
     }
-    return count;
+    return count < 0 ? 0 : static_cast<std::size_t>(count);
 }
 
 } // namespace
@@ -30,7 +30,7 @@ InputFile openInput(std::string const& path)
     if (path == "-") {
         std::string const name = "<stdin>";
         return {name, STDIN_FILENO,
-                [name](std::span<char> buffer) { return readFrom(stdin, name, buffer); }};
+                [name](std::span<char> buffer) { return readFrom(STDIN_FILENO, name, buffer); }};
     }
     // Shared, since a std::function must be able to copy what it holds.
     std::shared_ptr<std::FILE> const file(std::fopen(path.c_str(), "rbe"), [](std::FILE* opened) {
@@ -41,8 +41,9 @@ InputFile openInput(std::string const& path)
     if (file == nullptr) {
         throw Failure(path, std::string("cannot open: ") + std::strerror(errno));
     }
-    return {path, fileno(file.get()),
-            [file, path](std::span<char> buffer) { return readFrom(file.get(), path, buffer); }};
+    return {path, fileno(file.get()), [file, path](std::span<char> buffer) {
+                return readFrom(fileno(file.get()), path, buffer);
+            }};
 }
 
 } // namespace kiv

@@ -1,9 +1,12 @@
 #include "tools/kiv/Documents.h"
 
+#include "json/Maps.h"
 #include "json/TypeNames.h"
 #include "text/Path.h"
+#include "tools/kiv/LentEntry.h"
 #include "tools/kiv/LineReader.h"
 #include "tools/kiv/Progress.h"
+#include "tools/kiv/TextTroubles.h"
 #include "tools/lookup/Lookup.h"
 
 #include <utility>
@@ -24,12 +27,8 @@ bool isOf(ValueType::Code type, data::Value const* value)
 
 data::Value const* valueAt(data::Value const* value, std::string const& key)
 {
-    if (!isOf(ValueType::Object, value)) {
-        return nullptr;
-    }
-    auto const& map = static_cast<data::Object const&>(*value).get();
-    auto const found = map.find(key);
-    return found == map.end() ? nullptr : static_cast<data::Value const*>(found->second);
+    return isOf(ValueType::Object, value) ? kiv::valueAt(static_cast<data::Object const&>(*value), key)
+                                          : nullptr;
 }
 
 /// The text below a key, or nothing.
@@ -41,23 +40,6 @@ std::string_view textAt(data::Value const* value, std::string const& key)
                : std::string_view();
 }
 
-/// An entry whose value belongs to what it stands in.
-class LentEntry {
-public:
-    LentEntry(data::Value* value, json::Position position, std::size_t index)
-        : m_entry{std::unique_ptr<data::Value>(value), position, index, {}}
-    {
-    }
-    LentEntry(LentEntry const&) = delete;
-    LentEntry& operator=(LentEntry const&) = delete;
-    ~LentEntry() { static_cast<void>(m_entry.value.release()); }
-
-    json::Entry& get() { return m_entry; }
-
-private:
-    json::Entry m_entry;
-};
-
 /// Reads one file.
 class DocumentReader {
 public:
@@ -68,6 +50,9 @@ public:
                                             nullptr},
           m_resource(options.resource == anyResource ? nullptr : &resourceNamed(options.resource))
     {
+        if (!m_options.isList()) {
+            m_troubles.keep(m_listeners, m_handlers);
+        }
         if (m_handlers.onPart && m_resource != nullptr) {
             m_listeners.onPart = [this](json::Part& part) { return takePart(part); };
         }
@@ -88,8 +73,8 @@ public:
         if (m_options.lines) {
             readLines();
         } else if (m_options.element) {
-            auto document =
-                json::readDocument(m_input.name, std::move(m_input.source), {}, m_listeners);
+            auto document = readWhole(std::move(m_input.source), {});
+            m_troubles.tell("", elementPath(document));
             readElement(document);
         } else {
             readArray();
@@ -97,6 +82,29 @@ public:
     }
 
 private:
+    json::Document readWhole(json::ByteSource source, json::Position start)
+    {
+        try {
+            return json::readDocument(m_input.name, std::move(source), start, m_listeners);
+        } catch (...) {
+            m_troubles.tell("", "");
+            throw;
+        }
+    }
+
+    /// Where among the elements the document stands, if it is one.
+    [[nodiscard]] std::string elementPath(json::Document const& document) const
+    {
+        return isOf(ValueType::Object, document.value.get()) ? pathOf(m_elements) : "";
+    }
+
+    static std::string pathOf(std::size_t index)
+    {
+        Path path;
+        path.enter(index);
+        return path.text();
+    }
+
     void readArray()
     {
         json::Document const rest = json::readEntries(
@@ -118,8 +126,7 @@ private:
         LineReader lines(std::move(m_input.source));
         while (lines.next()) {
             try {
-                auto document = json::readDocument(m_input.name, lines.source(),
-                                                   {lines.number(), 1}, m_listeners);
+                auto document = readWhole(lines.source(), {lines.number(), 1});
                 readLine(document);
             } catch (Failure const& fault) {
                 if (!m_handlers.onBadLine) {
@@ -137,10 +144,12 @@ private:
         std::string_view const name = textAt(value, "resource");
         std::string_view const of = textAt(value, "of");
         if (name.empty() || (of != "resource" && of != "element")) {
+            m_troubles.tell("", elementPath(document));
             isOf(ValueType::Array, value) ? readEntries(*value, document, m_resource)
                                           : readElement(document);
             return;
         }
+        m_troubles.tell(recordedValue, of == "element" ? pathOf(m_elements) : "");
         auto const* const recorded = &recordedResource(name, position);
         if (m_resource != nullptr && m_resource != recorded) {
             return; // the line is of another resource than the one that was asked for
@@ -228,9 +237,7 @@ private:
             resource = named.empty() ? nullptr : named.front();
         }
         if (resource == nullptr) {
-            Path path;
-            path.enter(entry.index);
-            tell({m_input.name, entry.position, path.text(),
+            tell({m_input.name, entry.position, pathOf(entry.index),
                   "an element that does not say of which resource it is",
                   "give it a uri, or name the resource in the place of auto"});
             return;
@@ -258,6 +265,7 @@ private:
     DocumentOptions const& m_options;
     DocumentHandlers const& m_handlers;
     json::Listeners m_listeners;
+    TextTroubles m_troubles; ///< where the path of an element is not known as it is read
     catalogue::Resource const* m_resource; ///< null: each element says of which it is
     std::size_t m_elements = 0;            ///< that stood alone
 };

@@ -85,15 +85,18 @@ public:
             m_isSame = false;
             m_json ? writer->entry(valueOf(difference).get()) : print(console, difference);
         };
-        comparePairs();
+        comparePairs(console);
         if (m_json) {
             writer->endArray();
+        }
+        if (m_isUnable) {
+            return Exit::Unable;
         }
         return m_isSame ? Exit::Clean : Exit::Findings;
     }
 
 private:
-    void comparePairs()
+    void comparePairs(Console& console)
     {
         ElementFeed feedA(m_left, m_options);
         ElementFeed feedB(m_right, m_options);
@@ -116,9 +119,21 @@ private:
                 }
                 b = feedB.next();
             }
+            complain(console, feedA);
+            complain(console, feedB);
         }
+        complain(console, feedA);
+        complain(console, feedB);
         tellAlone(waitingA, true);
         tellAlone(waitingB, false);
+    }
+
+    void complain(Console& console, ElementFeed& feed)
+    {
+        for (Failure const& fault : feed.takeFaults()) {
+            m_isUnable = true;
+            console.complain(fault);
+        }
     }
 
     /// The partner of an element if it is among those of the other side; otherwise the element
@@ -213,6 +228,7 @@ private:
     std::string m_by = "uri";
     bool m_json = false;
     bool m_isSame = true;
+    bool m_isUnable = false; ///< to read some line
     std::function<void(Difference const& difference)> m_tell;
 };
 

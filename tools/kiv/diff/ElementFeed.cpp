@@ -37,6 +37,12 @@ std::optional<FullElement> ElementFeed::next()
     return element;
 }
 
+std::vector<Failure> ElementFeed::takeFaults()
+{
+    std::lock_guard const lock(m_mutex);
+    return std::exchange(m_faults, {});
+}
+
 void ElementFeed::read(std::stop_token const& stop, std::string const& path,
                        DocumentOptions const& options)
 {
@@ -49,6 +55,10 @@ void ElementFeed::read(std::stop_token const& stop, std::string const& path,
             given.forget();
             give(stop,
                  {&given.resource, index++, element->serialize(common::SerializationType::Full)});
+        };
+        handlers.onBadLine = [&](Failure const& fault) {
+            std::lock_guard const lock(m_mutex);
+            m_faults.push_back(fault);
         };
         readDocuments(path, options, handlers);
         end(nullptr);

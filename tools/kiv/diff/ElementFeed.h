@@ -12,6 +12,7 @@
 #include <stop_token>
 #include <string>
 #include <thread>
+#include <vector>
 
 namespace kiv {
 
@@ -35,6 +36,9 @@ public:
     /// The next element; none at the end. Throws what reading the file threw.
     std::optional<FullElement> next();
 
+    /// What was wrong with lines that were left out so far, each told once.
+    std::vector<Failure> takeFaults();
+
 private:
     void read(std::stop_token const& stop, std::string const& path, DocumentOptions const& options);
     void give(std::stop_token const& stop, FullElement element);
@@ -45,7 +49,8 @@ private:
     std::deque<FullElement> m_ready;
     bool m_isAtEnd = false;
     std::exception_ptr m_fault;
-    std::jthread m_thread; ///< the last member, so that it ends before the others do
+    std::vector<Failure> m_faults; ///< of single lines
+    std::jthread m_thread;         ///< the last member, so that it ends before the others do
 };
 
 } // namespace kiv
