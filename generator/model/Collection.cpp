@@ -78,7 +78,9 @@ void Collection::checkWhole(Interface const& interface)
     checkResourceKeys(m_definitions, m_faults);
     checkElementNames(m_definitions, m_faults);
     checkAccessors(interface, m_faults);
-    if (m_isWhole) {
+    // Texts name what may come back when such a fault is mended.
+    bool const isCaused = std::ranges::any_of(m_faults, &Fault::isCause);
+    if (m_isWhole && !isCaused) {
         checkProseNames(m_definitions, m_services, m_names, m_faults);
     }
     std::ranges::stable_sort(m_faults, {}, [](Fault const& one) {

@@ -91,7 +91,7 @@ public:
             m_json ? writer->entry(valueOf(file, placed).get()) : print(console, file, placed);
         };
         m_complain = [&](Failure const& fault) {
-            m_isUnable = true;
+            ++m_faults;
             m_json ? writer->entry(valueOf(fault).get()) : console.complain(fault);
         };
         m_flush = [&] { console.output.flush(); };
@@ -107,7 +107,7 @@ public:
         if (isInterrupted) {
             return Exit::Interrupted;
         }
-        if (m_isUnable) {
+        if (m_faults > 0) {
             return Exit::Unable;
         }
         return m_findings > 0 || (m_strict && m_suspects > 0) ? Exit::Findings : Exit::Clean;
@@ -250,7 +250,8 @@ private:
     {
         std::string const suspects =
             m_suspects == 0 ? "" : ", " + counted(m_suspects, "suspect place");
-        console.output.write(counted(m_findings, "finding") + suspects + " in " +
+        std::string const faults = m_faults == 0 ? "" : ", " + counted(m_faults, "fault");
+        console.output.write(counted(m_findings, "finding") + suspects + faults + " in " +
                              counted(m_files.size(), "file") + "\n");
         if (m_isReadOtherwise && !m_platform) {
             console.output.write("what a value of another type reads as is up to the platform's "
@@ -268,7 +269,7 @@ private:
     bool m_json = false;
     std::size_t m_findings = 0;
     std::size_t m_suspects = 0;
-    bool m_isUnable = false;
+    std::size_t m_faults = 0;       ///< places from which on nothing could be read
     bool m_isReadOtherwise = false; ///< some value was of another type
     std::vector<Placed> m_found;    ///< in the entry that is read just now
     std::vector<Placed> m_misfits;
