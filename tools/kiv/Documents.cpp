@@ -27,8 +27,9 @@ bool isOf(ValueType::Code type, data::Value const* value)
 
 data::Value const* valueAt(data::Value const* value, std::string const& key)
 {
-    return isOf(ValueType::Object, value) ? kiv::valueAt(static_cast<data::Object const&>(*value), key)
-                                          : nullptr;
+    return isOf(ValueType::Object, value)
+               ? kiv::valueAt(static_cast<data::Object const&>(*value), key)
+               : nullptr;
 }
 
 /// The text below a key, or nothing.
