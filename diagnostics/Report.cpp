@@ -232,7 +232,7 @@ void Report::putTotals(Line& line, std::size_t index) const
 {
     auto const& row = m_totals.row(index);
     auto const [service, resource] = Totals::nameAt(index);
-    auto const slash = resource.empty() ? "" : "/";
+    std::string_view const slash = resource.empty() ? "" : "/";
     if (m_isJson) {
         begin(line, m_program) << R"(,"class":")" << service << slash << resource << R"(","in":)"
                                << row.in << ",\"out\":" << row.out

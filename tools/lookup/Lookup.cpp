@@ -55,7 +55,7 @@ bool isCalled(catalogue::Resource const& resource, std::string_view name)
 
 std::string hintFor(std::string_view name)
 {
-    if (std::ranges::count(services(), name) > 0) {
+    if (catalogue::findService(name) != nullptr) {
         return ", but a service; kiv list " + std::string(name) + " shows its resources";
     }
     std::vector<std::string> const names = allResourceNames();
@@ -107,27 +107,23 @@ catalogue::Resource const& resourceNamed(std::string_view name)
 
 std::vector<catalogue::Resource const*> resourcesOf(std::string_view service)
 {
-    std::vector<catalogue::Resource const*> found;
-    for (auto const& resource : catalogue::resources()) {
-        if (resource.service == service) {
-            found.push_back(&resource);
-        }
-    }
-    if (found.empty()) {
+    auto const* const found = catalogue::findService(service);
+    if (found == nullptr) {
         throw Failure("no service " + inQuotes(service) + didYouMean(service, services()) +
                       " (kiv list shows all services)");
     }
-    return found;
+    std::vector<catalogue::Resource const*> resources;
+    for (auto const& resource : found->resources) {
+        resources.push_back(&resource);
+    }
+    return resources;
 }
 
 std::vector<std::string_view> services()
 {
     std::vector<std::string_view> names;
-    for (auto const& resource : catalogue::resources()) {
-        if (names.empty() || names.back() != resource.service) {
-            names.push_back(resource.service);
-        }
-    }
+    std::ranges::transform(catalogue::services(), std::back_inserter(names),
+                           &catalogue::Service::name);
     return names;
 }
 
