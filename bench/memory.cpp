@@ -1,8 +1,8 @@
-// Prints how much memory this process has written, in kB: when it begins, and after the value tree of
-// a small resource was read and written once. What the library of the process costs is the difference
-// to the program that has none and copies the tree instead. What counts is what the kernel calls
-// anonymous: the pages of a file that the process has written to, but not those that are dirty because
-// the file itself is new.
+// Prints how much memory this process has written, in kB: when it begins, and after the value tree
+// of a small resource was read and written once. What the library of the process costs is the
+// difference to the program that has none and copies the tree instead. What counts is what the
+// kernel calls anonymous: the pages of a file that the process has written to, but not those that
+// are dirty because the file itself is new.
 //   memory         prints both
 //   memory wait    and then waits for the end of the standard input, for whoever looks at many at
 //   once
