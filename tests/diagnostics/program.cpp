@@ -116,6 +116,10 @@ void writeWithoutUri()
     radio::Presets::PresetObject preset;
     preset.setStation(std::make_unique<radio::Stations::StationObject>());
     static_cast<void>(preset.serialize(SerializationType::Shallow));
+    radio::Stations::StationObject station;
+    station.addBands(std::make_unique<radio::Bands::BandObject>());
+    station.addCategory(std::make_unique<radio::Categories::CategoryObject>());
+    static_cast<void>(station.serialize(SerializationType::Shallow));
 }
 
 } // namespace

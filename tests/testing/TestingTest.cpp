@@ -73,6 +73,10 @@ TEST(Testing, MatchesAndShowsValuesElementsAndResources)
     EXPECT_THAT(*value, MatchesJson(text));
     EXPECT_THAT(presets, MatchesJson(text));
     EXPECT_THAT(preset, Not(MatchesJson("{}")));
+    testing::StringMatchResultListener listener;
+    EXPECT_FALSE(
+        testing::ExplainMatchResult(MatchesJson(R"([{"position":3}])"), presets, &listener));
+    EXPECT_THAT(listener.str(), testing::StartsWith("[0].station: "));
     EXPECT_EQ('[' + testing::PrintToString(preset) + ']', text);
     EXPECT_EQ(testing::PrintToString(presets), text);
     EXPECT_EQ(toJson(preset, Layout::Indented), "{\n    \"position\": 3,\n    \"station\": {\n"
