@@ -47,6 +47,7 @@ void ReadingTrail::enter(Receiver& receiver, common::IObjectBase const& element,
     level.element = &element;
     level.value = value;
     level.isFromUri = isFromUri;
+    level.isChosen = std::exchange(m_isChosen, false);
     ++m_elements;
 }
 
@@ -107,13 +108,16 @@ void ReadingTrail::checkOwnUri(Level const& level)
         return;
     }
     auto const* const row = rowOf(level);
-    if (row != nullptr) {
-        std::string const name = common::IObjectBase::getServiceAndResourceString(object);
-        if (name != nameOf(row) || !textIn(*uri).starts_with('/')) {
-            top().key = "uri";
-            checkUri(here(Fate::Suspect, Id::OddUri), name, textIn(*uri), true, row);
-            top().key = {};
-        }
+    if (row == nullptr && level.isChosen) {
+        return;
+    }
+    std::string const name = common::IObjectBase::getServiceAndResourceString(object);
+    bool const hasSlash = textIn(*uri).starts_with('/');
+    // A reference to the outside may have a uri of any form.
+    if (row != nullptr ? name != nameOf(row) || !hasSlash : hasSlash && !name.empty()) {
+        top().key = "uri";
+        checkUri(here(Fate::Suspect, Id::OddUri), name, textIn(*uri), true, row);
+        top().key = {};
     }
 }
 

@@ -68,6 +68,7 @@ private:
         ListPart const* part = nullptr; ///< if the list is read in parts
         bool isReadAsList = false;
         bool isFromUri = false; ///< what is read was made of a uri
+        bool isChosen = false;  ///< the class was chosen by the uri, of which all is told
         bool isRefused = false; ///< the uri of the value under the key was told to be no text
     };
 
@@ -95,6 +96,7 @@ private:
     std::string m_uriName;
     std::string m_uriText;
     bool m_uriHasId = false;
+    bool m_isChosen = false; ///< so is the class of the element that is entered next
 };
 
 } // namespace kiv::diagnostics

@@ -1,5 +1,8 @@
 #include "diagnostics/Words.h"
 
+#include "json/TypeNames.h"
+#include "text/Suggestion.h"
+
 #include <array>
 #include <charconv>
 
@@ -40,6 +43,17 @@ std::string escaped(std::string_view text)
         }
     }
     return result;
+}
+
+std::string wanted(data::Value const* value, std::string_view want)
+{
+    return std::string(typeName(value)) + " where " + std::string(want) + " is wanted";
+}
+
+std::string guess(std::string_view word, std::span<std::string_view const> known)
+{
+    std::string const guessed = didYouMean(word, known);
+    return guessed.starts_with("; ") ? guessed.substr(2) : guessed;
 }
 
 } // namespace kiv::diagnostics

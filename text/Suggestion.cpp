@@ -167,6 +167,12 @@ bool isNear(std::string_view word, std::string_view name)
             }));
 }
 
+bool isOneSlip(std::string_view word, std::string_view other)
+{
+    return word.size() <= longestWord && other.size() <= longestWord &&
+           slipsBetween(word, other, 1) == 1;
+}
+
 std::string didYouMean(std::string_view word, std::span<std::string_view const> known)
 {
     auto const names = nearest(word, known, 2);

@@ -20,6 +20,10 @@ std::vector<std::string> nearest(std::string_view word, std::span<std::string_vi
 /// those of `word` in another order: `temperature` is near `gearboxOilTemperatur`.
 bool isNear(std::string_view word, std::string_view name);
 
+/// Whether a letter added, dropped, changed or swapped with its neighbour makes one word of the
+/// other.
+bool isOneSlip(std::string_view word, std::string_view other);
+
 /// The end of a message about an unknown name: `; did you mean 'string' or 'string list'?`, or
 /// nothing if no known word is close.
 std::string didYouMean(std::string_view word, std::span<std::string_view const> known);
