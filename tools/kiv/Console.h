@@ -16,7 +16,6 @@ public:
     explicit Style(int descriptor);
 
     [[nodiscard]] std::string strong(std::string_view text) const { return marked("1", text); }
-    [[nodiscard]] std::string faint(std::string_view text) const { return marked("2", text); }
     [[nodiscard]] std::string error(std::string_view text) const { return marked("1;31", text); }
 
 private:
