@@ -104,13 +104,10 @@ void ReadingTrail::checkOwnUri(Level const& level)
 {
     auto const& object = static_cast<data::Object const&>(*level.value);
     auto const* const uri = valueAt(object, "uri");
-    if (level.isFromUri || typeOf(uri) != Type::Text) {
+    if (level.isFromUri || level.isChosen || typeOf(uri) != Type::Text) {
         return;
     }
     auto const* const row = rowOf(level);
-    if (row == nullptr && level.isChosen) {
-        return;
-    }
     std::string const name = common::IObjectBase::getServiceAndResourceString(object);
     bool const hasSlash = textIn(*uri).starts_with('/');
     // A reference to the outside may have a uri of any form.
